@@ -1,0 +1,18 @@
+// The one place where an event enters the program, and where a failure that no handler took ends.
+#pragma once
+
+#include <utility>
+
+// Tells the user about the exception that is being handled: a stop box with number and text.
+// REQUIRES: called inside a catch block.
+void Report_Failure() noexcept;
+
+// Runs one event. What escapes from it is reported; the event ends there, the program and its data live on.
+template <class Handler>
+void Dispatch(Handler&& handler) noexcept {
+  try {
+    std::forward<Handler>(handler)();
+  } catch (...) {
+    Report_Failure();
+  }
+}

@@ -1,0 +1,123 @@
+// The MIDI service: the operations, records, codes and texts of the classic multimedia MIDI interface.
+// app/ or a test installs a service before anything runs. All calls come on the user-interface thread, none of them
+// waits for the wire but for midiOutClose, which waits 10 ms at most.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+// Raw bytes of a message, 0 to 255 each. No character conversion may touch them.
+using Byte_String = std::string;
+
+// Result codes, numbers as published for the interface.
+constexpr int Midi_Ok = 0;
+constexpr int Midi_Error = 1;            // unspecified
+constexpr int Midi_Bad_Device = 2;
+constexpr int Midi_Allocated = 4;
+constexpr int Midi_Invalid_Handle = 5;
+constexpr int Midi_No_Driver = 6;
+constexpr int Midi_No_Memory = 7;
+constexpr int Midi_Not_Supported = 8;
+constexpr int Midi_Invalid_Parameter = 11;
+constexpr int Midi_Unprepared = 64;
+constexpr int Midi_Still_Playing = 65;
+constexpr int Midi_Not_Ready = 67;
+constexpr int Midi_No_Device = 68;
+
+constexpr int Midi_Name_Size = 32;  // of a name field, its closing zero included
+
+struct MIDI_Out_Caps {
+  std::uint16_t manufacturer = 0;
+  std::uint16_t product = 0;
+  std::uint32_t driver_version = 0;
+  std::array<char, Midi_Name_Size> name{};
+  std::uint16_t technology = 0;
+  std::uint16_t voices = 0;
+  std::uint16_t notes = 0;
+  std::uint16_t channel_mask = 0;
+  std::uint32_t support = 0;
+};
+
+struct MIDI_In_Caps {
+  std::uint16_t manufacturer = 0;
+  std::uint16_t product = 0;
+  std::uint32_t driver_version = 0;
+  std::array<char, Midi_Name_Size> name{};
+  std::uint32_t support = 0;
+};
+
+constexpr std::uint32_t Header_Done = 1;
+constexpr std::uint32_t Header_Prepared = 2;
+
+struct MIDI_Header {
+  Byte_String data;
+  std::uint32_t buffer_length = 0;
+  std::uint32_t bytes_recorded = 0;
+  std::uint32_t user = 0;
+  std::uint32_t flags = 0;
+};
+
+// Takes a buffer back from a started input: data holds one complete System Exclusive message, F0 to F7, and
+// bytes_recorded its length.
+using Midi_Receiver = std::function<void(MIDI_Header& header)>;
+
+// The port itself. Handles are above 0.
+struct Midi_Service {
+  virtual ~Midi_Service() = default;
+
+  // Makes the device lists anew. Open devices stay open.
+  virtual void Refresh() = 0;
+
+  virtual int Out_Count() = 0;
+  virtual int Out_Caps(int device, MIDI_Out_Caps& caps) = 0;
+  virtual int Out_Open(std::int32_t& handle, int device) = 0;
+  // Low byte status, then data 1 and data 2. Bytes beyond the status's own length are not sent.
+  virtual int Out_Short(std::int32_t handle, std::uint32_t message) = 0;
+  virtual int Out_Prepare(std::int32_t handle, MIDI_Header& header) = 0;
+  virtual int Out_Long(std::int32_t handle, MIDI_Header& header) = 0;
+  virtual int Out_Unprepare(std::int32_t handle, MIDI_Header& header) = 0;
+  virtual int Out_Close(std::int32_t handle) = 0;
+
+  virtual int In_Count() = 0;
+  virtual int In_Caps(int device, MIDI_In_Caps& caps) = 0;
+  // The receiver runs on the user-interface thread, never inside a call of the service, and never after In_Close.
+  virtual int In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) = 0;
+  // Prepares a buffer of buffer_length bytes, and hands it to the input to be filled; it stays there, at its address,
+  // until the receiver gets it, or the input is reset or closed. A message that finds no buffer, or none that is
+  // long enough, is dropped.
+  virtual int In_Prepare(std::int32_t handle, MIDI_Header& header) = 0;
+  virtual int In_Add_Buffer(std::int32_t handle, MIDI_Header& header) = 0;
+  virtual int In_Unprepare(std::int32_t handle, MIDI_Header& header) = 0;
+  virtual int In_Start(std::int32_t handle) = 0;
+  virtual int In_Reset(std::int32_t handle) = 0;
+  virtual int In_Close(std::int32_t handle) = 0;
+
+  // Text of a code; empty for a code it does not know.
+  virtual std::string Error_Text(int code) = 0;
+};
+
+void Install_Midi_Service(Midi_Service* service);  // nullptr takes it away: every call answers 6, every count is 0
+
+// The operations under their published names.
+void midiRefreshDevices();
+int midiOutGetNumDevs();
+int midiOutGetDevCaps(int device, MIDI_Out_Caps& caps);
+int midiOutOpen(std::int32_t& handle, int device);
+int midiOutShortMsg(std::int32_t handle, std::uint32_t message);
+int midiOutPrepareHeader(std::int32_t handle, MIDI_Header& header);
+int midiOutLongMsg(std::int32_t handle, MIDI_Header& header);
+int midiOutUnprepareHeader(std::int32_t handle, MIDI_Header& header);
+int midiOutClose(std::int32_t handle);
+std::string midiOutGetErrorText(int code);
+int midiInGetNumDevs();
+int midiInGetDevCaps(int device, MIDI_In_Caps& caps);
+int midiInOpen(std::int32_t& handle, int device, Midi_Receiver receiver);
+int midiInPrepareHeader(std::int32_t handle, MIDI_Header& header);
+int midiInAddBuffer(std::int32_t handle, MIDI_Header& header);
+int midiInUnprepareHeader(std::int32_t handle, MIDI_Header& header);
+int midiInStart(std::int32_t handle);
+int midiInReset(std::int32_t handle);
+int midiInClose(std::int32_t handle);
+std::string midiInGetErrorText(int code);

@@ -1,0 +1,141 @@
+#include "support/scripted_desktop.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "platform/dispatch.h"
+#include "platform/timer.h"
+
+Scripted_Desktop::Scripted_Desktop() { Install_Desktop(this); }
+
+Scripted_Desktop::~Scripted_Desktop() {
+  EXPECT_TRUE(expected.empty()) << expected.size() << " expected box(es) never came, first: " << expected.front().text;
+  EXPECT_TRUE(at_wait.empty()) << at_wait.size() << " step(s) for a wait were never reached";
+  Take_Changes();
+  Install_Desktop(nullptr);
+}
+
+void Scripted_Desktop::Take_Changes() {
+  for (Component* component : changed) component->Shown();
+  changed.clear();
+}
+
+void Scripted_Desktop::Run_Timers_Until(std::int64_t time_us) {
+  while (wake_us >= 0 && wake_us <= time_us) {
+    now_us = std::max(now_us, wake_us);
+    wake_us = -1;
+    Timers_Run_Due();
+  }
+}
+
+void Scripted_Desktop::Advance_ms(int milliseconds) {
+  const std::int64_t end_us = now_us + std::int64_t{milliseconds} * 1000;
+  Run_Timers_Until(end_us);
+  now_us = end_us;
+}
+
+void Scripted_Desktop::Expect_Box(Answer answer, std::string text) { expected.push_back({answer, std::move(text)}); }
+
+Answer Scripted_Desktop::Message_Box(std::string_view text, int style, std::string_view title) {
+  boxes.push_back({std::string(text), style, std::string(title)});
+  if (expected.empty() && on_other_box) return on_other_box(boxes.back());
+  if (expected.empty()) {
+    ADD_FAILURE() << "unexpected box: " << text;
+    return Answer::Cancel;
+  }
+  const Expected_Box box = expected.front();
+  expected.pop_front();
+  if (!box.text.empty()) {
+    EXPECT_EQ(box.text, text);
+  }
+  return box.answer;
+}
+
+void Scripted_Desktop::Run_Posts() {
+  while (!posts.empty()) {
+    const std::function<void()> post = std::move(posts.front());
+    posts.pop_front();
+    Dispatch(post);
+  }
+}
+
+void Scripted_Desktop::Run_Events(Event_Set) {
+  ++events_run;
+  Run_Posts();
+  Run_Timers_Until(now_us);
+}
+
+void Scripted_Desktop::Wait_Events() {
+  if (!posts.empty()) return Run_Posts();
+  if (!at_wait.empty()) {
+    const std::function<void()> step = std::move(at_wait.front());
+    at_wait.pop_front();
+    return step();
+  }
+  if (wake_us < 0) throw std::logic_error("the program waits for what will never come");
+  Run_Timers_Until(wake_us);
+}
+
+bool Scripted_Desktop::Play_System_Sound(std::string_view alias) {
+  sounds.emplace_back(alias);
+  return sound_scheme;
+}
+
+bool Scripted_Desktop::Add_Font(std::string_view host_path) {
+  if (fonts_load) fonts.emplace_back(host_path);
+  return fonts_load;
+}
+
+int Scripted_Desktop::Remove_Font(std::string_view host_path) {
+  std::erase(fonts, host_path);
+  return remove_font_error;
+}
+
+void Scripted_Desktop::Press(Control& control, int button, float x, float y) {
+  Mouse_Down(control, {button, 0, x, y});
+}
+
+void Scripted_Desktop::Move(Control& control, float x, float y, int buttons) {
+  Mouse_Move(control, {buttons, 0, x, y});
+}
+
+void Scripted_Desktop::Release(Control& control, int button, float x, float y) {
+  Mouse_Up(control, {button, 0, x, y}, true);
+}
+
+void Scripted_Desktop::Click(Control& control, int button) {
+  Press(control, button);
+  Release(control, button);
+}
+
+void Scripted_Desktop::Double_Click(Control& control) {
+  Click(control);
+  Mouse_Double(control, {Left_Button, 0, 4, 4});
+}
+
+void Scripted_Desktop::Drag(Control& control, std::initializer_list<float> ys, int button) {
+  Press(control, button);
+  for (const float y : ys) Move(control, 4, y, button);
+  Release(control, button);
+}
+
+bool Scripted_Desktop::Key(int code, int shift, int character) {
+  Form* form = Active_Form() != nullptr ? Active_Form() : Frame_Form();
+  if (form == nullptr) {
+    ADD_FAILURE() << "a key without a window";
+    return false;
+  }
+  return Key_Down(*form, Focused_Control(), {code, shift}, character);
+}
+
+void Scripted_Desktop::Type(Text_Box& box, const std::string& text) {
+  User_Focused(box);
+  User_Typed(box, text, static_cast<int>(text.size()), 0);
+}
+
+void Scripted_Desktop::Choose_Menu(Menu_Item& item) {
+  EXPECT_TRUE(Can_Choose(item)) << item.name << " cannot be chosen";
+  Choose(item);
+}
