@@ -1,0 +1,93 @@
+// The program's client at the JACK server, with its open ports.
+#pragma once
+
+#include <jack/jack.h>
+#include <jack/ringbuffer.h>
+#include <semaphore.h>
+
+#include <array>
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "adapters/midi/backend.h"
+#include "output_slot.h"
+#include "worker.h"
+
+namespace Jack {
+
+struct Input_Slot {
+  std::atomic<Slot_State> state = Slot_State::Free;
+  std::atomic<jack_port_t*> port = nullptr;
+  std::atomic<bool> lost = false;  // an event that had no room
+  std::string other;               // full name of the other port
+  Midi::Byte_Receiver receiver;    // under Client's lock
+};
+
+struct Client : std::enable_shared_from_this<Client> {
+  // Connects to the running server, on the worker; never starts one. nullptr: there is none. The client is
+  // taken down on the worker too, whoever lets it go last.
+  static std::shared_ptr<Client> Connect(const std::weak_ptr<Worker::Queue>& worker);
+  ~Client();
+  Client(const Client&) = delete;
+  Client& operator=(const Client&) = delete;
+
+  bool Dead() const { return dead_; }  // the server has gone
+  jack_nframes_t Now();                // frame time; any thread
+  // Takes the client of a dead server down while its ports are still held, which the library would else do by
+  // itself when the next client is made. Worker only.
+  void Take_Down();
+
+  // Below: user-interface thread. None of them waits for the server.
+  std::vector<Midi::Port> Ports(Midi::Direction direction) const;
+  // nullptr: the port is no longer there, or no slot is free.
+  Output_Slot* Open_Output(const std::string& destination);
+  void Close_Output(Output_Slot& slot);
+  Input_Slot* Open_Input(const std::string& origin, Midi::Byte_Receiver receiver);
+  void Close_Input(Input_Slot& slot);  // its receiver is not called any more
+
+ private:
+  static constexpr std::size_t Slots = 8;
+  struct Event_Head {
+    std::uint32_t slot;
+    std::uint32_t size;
+  };
+
+  Client(jack_client_t* client, const std::weak_ptr<Worker::Queue>& worker);
+  bool Activate();
+  bool Has_Port(const std::string& name) const;
+  template <class Slot>
+  void Post_Opening(Slot& slot, const char* name, unsigned long flags);
+  template <class Slot>
+  void Post_Closing(Slot& slot);
+  template <class Slot>
+  bool Link_Patiently(Slot& slot) const;
+  int Link(const Output_Slot& slot) const;
+  int Link(const Input_Slot& slot) const;
+  static void Lost(Output_Slot& slot) { slot.gone = true; }
+  static void Lost(Input_Slot&) {}  // an input whose port is not there stays silent
+  void Wait_Periods(unsigned count) const;
+  void Find_Gone();
+  int Process(jack_nframes_t count);
+  void Read_Input(std::uint32_t slot, jack_nframes_t count);
+  void Run_Input();
+
+  std::mutex taken_down_;  // guards client_ where it may go meanwhile
+  jack_client_t* client_;
+  std::weak_ptr<Worker::Queue> worker_;
+  std::string own_prefix_;  // our name and ":"
+  std::atomic<bool> dead_ = false;
+  std::atomic<unsigned> periods_ = 0;
+  std::array<Output_Slot, Slots> outputs_;
+  std::array<Input_Slot, Slots> inputs_;
+  std::unique_ptr<jack_ringbuffer_t, void (*)(jack_ringbuffer_t*)> input_ring_;
+  sem_t input_waits_{};
+  std::atomic<bool> ended_ = false;
+  std::mutex receivers_;
+  std::thread input_thread_;
+};
+
+}  // namespace Jack

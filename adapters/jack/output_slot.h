@@ -1,0 +1,65 @@
+// One open JACK output: a ring of stamped messages between the sender thread and the server's process thread.
+#pragma once
+
+#include <jack/jack.h>
+#include <jack/ringbuffer.h>
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Jack {
+
+enum class Slot_State {
+  Free,
+  Opening,  // messages gather, until the port is there and connected
+  Live,
+  Closing,
+};
+
+// Where in the period of count frames that starts at period_start a message stands that was stamped with the
+// frame time: one period behind its stamp, or at once if that has passed. Nothing: in a later period.
+std::optional<jack_nframes_t> Offset_In_Period(jack_nframes_t stamp, jack_nframes_t period_start,
+                                               jack_nframes_t count);
+
+struct Output_Slot {
+  Output_Slot();
+
+  std::atomic<Slot_State> state = Slot_State::Free;
+  std::atomic<jack_port_t*> port = nullptr;  // ours
+  std::atomic<bool> gone = false;            // the other port is no longer there
+  std::string other;                         // full name of the other port
+
+  // User-interface thread. REQUIRES: the slot is free, or its process thread has left it.
+  void Empty();
+  // Sender thread. Puts a message in as a whole, with the frame time of now; false: no room.
+  bool Put(jack_nframes_t now, std::string_view message);
+  // Bytes of messages in periods that have ended, since the slot was opened. Any thread.
+  std::size_t Passed_Bytes() const { return passed_; }
+
+  // Process thread: writes what is due into the port's buffer of the period of count frames that starts at
+  // the frame time. Each message stands exactly one period after its stamp; what has no room goes into the
+  // next period.
+  void Process(jack_nframes_t period_start, jack_nframes_t count);
+
+ private:
+  struct Head {
+    jack_nframes_t frame;
+    std::uint32_t size;
+  };
+  bool Next_Message();
+
+  std::unique_ptr<jack_ringbuffer_t, void (*)(jack_ringbuffer_t*)> ring_;
+  std::atomic<std::size_t> passed_ = 0;
+
+  // of the process thread
+  std::size_t placed_ = 0;  // in buffers, that of this period included
+  Head head_{};             // of the message that goes out
+  std::uint32_t left_ = 0;  // bytes of it that were not placed yet
+};
+
+}  // namespace Jack

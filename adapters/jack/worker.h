@@ -1,0 +1,47 @@
+// A thread for requests to the JACK server: they wait as long as the server is stopped, and the program must
+// not.
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+namespace Jack {
+
+struct Worker {
+  // Throws std::system_error where the system has no thread for it.
+  Worker();
+  // Lets the tasks end that were posted, for up to a second. Then they are left behind with their thread: a
+  // server that stays stopped does not keep the program from ending.
+  ~Worker();
+  Worker(const Worker&) = delete;
+  Worker& operator=(const Worker&) = delete;
+
+  // Runs the tasks one after another, in order. From any thread but the server's process thread.
+  void Post(std::function<void()> task);
+
+  struct Queue {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::deque<std::function<void()>> tasks;
+    bool ending = false;
+    bool ended = false;
+    std::thread::id thread;
+  };
+  // For those who may outlive the worker: what they post then is dropped.
+  std::weak_ptr<Queue> Tasks() const { return queue_; }
+
+ private:
+  std::shared_ptr<Queue> queue_;
+};
+
+// Puts a task at the end of the queue. False if the queue has come to its end.
+bool Post_Task(const std::weak_ptr<Worker::Queue>& queue, std::function<void()> task);
+
+// Whether the caller is one of the queue's tasks.
+bool On_Worker(const std::weak_ptr<Worker::Queue>& queue);
+
+}  // namespace Jack

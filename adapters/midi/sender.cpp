@@ -1,0 +1,82 @@
+#include "adapters/midi/sender.h"
+
+#include <chrono>
+#include <utility>
+
+#include "platform/midi_service.h"
+
+namespace Midi {
+namespace {
+
+constexpr std::int64_t Close_Wait_us = 10'000;
+constexpr std::int64_t Give_Up_us = 1'000'000;
+constexpr std::chrono::milliseconds Close_Step(1);
+
+using Steady = std::chrono::steady_clock;
+
+std::int64_t Now_us() {
+  return std::chrono::duration_cast<std::chrono::microseconds>(Steady::now().time_since_epoch()).count();
+}
+
+Steady::time_point Time_Point(std::int64_t time_us) {
+  return Steady::time_point(std::chrono::microseconds(time_us));
+}
+
+}  // namespace
+
+Sender::Sender(std::unique_ptr<Sink> sink, bool paced) : line_(std::move(sink), paced) {
+  thread_ = std::thread(&Sender::Run, this);
+}
+
+Sender::~Sender() {
+  {
+    const std::lock_guard lock(mutex_);
+    ended_ = true;
+  }
+  changed_.notify_one();
+  thread_.join();
+}
+
+int Sender::Send(Message_Kind kind, std::string_view message) {
+  const int code = line_.Take(kind, message, Now_us());
+  if (code != Midi_Ok) return code;
+  {
+    const std::lock_guard lock(mutex_);
+    woken_ = true;
+  }
+  changed_.notify_one();
+  return Midi_Ok;
+}
+
+int Sender::Close() {
+  const std::int64_t end_us = Now_us() + Close_Wait_us;
+  for (;;) {
+    const std::int64_t now_us = Now_us();
+    const std::size_t bytes = line_.Bytes_Under_Way(now_us);
+    if (bytes == 0) return Midi_Ok;
+    if (close_moved_us_ < 0 || bytes != close_bytes_) close_moved_us_ = now_us;
+    close_bytes_ = bytes;
+    if (now_us - close_moved_us_ >= Give_Up_us) return Midi_Ok;
+    if (now_us >= end_us) return Midi_Still_Playing;
+    // What waits inside a system leaves without notice, so the line is looked at again from time to time.
+    std::this_thread::sleep_for(Close_Step);
+  }
+}
+
+void Sender::Run() {
+  std::unique_lock lock(mutex_);
+  while (!ended_) {
+    woken_ = false;
+    lock.unlock();
+    const std::int64_t again_us = line_.Pump(Now_us());
+    lock.lock();
+    const auto called = [this] { return woken_ || ended_; };
+    if (again_us == Never_us) {
+      changed_.wait(lock, called);
+    } else {
+      changed_.wait_until(lock, Time_Point(again_us), called);
+    }
+  }
+}
+
+}  // namespace Midi

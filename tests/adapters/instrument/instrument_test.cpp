@@ -1,0 +1,184 @@
+// The built-in instrument: what a byte stream does to it, and its place among the devices.
+#include "adapters/instrument/instrument.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+#include "adapters/midi/service.h"
+#include "support/midi_contract.h"
+#include "support/recording_service.h"
+
+namespace {
+
+using Instrument::List_Id;
+using Instrument::Parameter_List;
+
+constexpr List_Id Tone{0x21, 0x20, 1};
+constexpr List_Id Patch{0x21, 0x30, 1};
+constexpr List_Id Tone_A{0x24, 0x20, 1};
+constexpr List_Id Tone_B{0x24, 0x20, 2};
+constexpr List_Id Patch_MKS70{0x24, 0x30, 1};
+
+// 1, 2, ... 59
+Parameter_List Counting_Tone() {
+  Parameter_List values(59);
+  std::iota(values.begin(), values.end(), std::uint8_t{1});
+  return values;
+}
+
+Byte_String Dump(const char* head) {
+  Byte_String bytes = Bytes_Of(head);
+  for (const std::uint8_t value : Counting_Tone()) bytes += static_cast<char>(value);
+  return bytes;
+}
+
+TEST(Receiver, Takes_The_59_Values_Of_A_Dump_Whatever_Follows_Them) {
+  const Byte_String heads[] = {Bytes_Of("F7"), Bytes_Of("24 07 F0 41 36 00 21 30 01 05 7F F7"),
+                               Bytes_Of("90 3C 40"), Bytes_Of("")};
+  for (const Byte_String& rest : heads) {
+    Instrument::Receiver receiver;
+    receiver.Take(Dump("F0 41 35 00 21 20 01") + rest);
+    EXPECT_EQ(receiver.memory.Values(Tone), Counting_Tone()) << Hex_Text(rest);
+    EXPECT_EQ(receiver.memory.Values(Patch)[5], rest.size() > 3 ? 0x7F : 0);
+  }
+}
+
+TEST(Receiver, A_Dump_That_Is_Cut_Short_Changes_Nothing) {
+  const Byte_String whole = Dump("F0 41 35 00 21 20 01");
+  for (std::size_t size = 0; size < whole.size(); ++size) {
+    Instrument::Receiver receiver;
+    receiver.Take(whole.substr(0, size) + "\xF7");
+    ASSERT_EQ(receiver.memory.Values(Tone), Parameter_List(59)) << size;
+  }
+}
+
+TEST(Receiver, A_Head_Says_Which_List_Is_Meant) {
+  const struct {
+    const char* message;
+    List_Id list;
+  } rows[] = {
+      {"F0 41 36 00 21 20 01 03 09 F7", Tone},        {"F0 41 36 00 21 30 01 03 09 F7", Patch},
+      {"F0 41 36 0F 24 20 01 03 09 F7", Tone_A},      {"F0 41 36 00 24 20 02 03 09 F7", Tone_B},
+      {"F0 41 36 00 24 30 01 03 09 F7", Patch_MKS70}, {"F0 42 36 00 21 20 01 03 09 F7", {0, 0, 0}},
+      {"F0 41 34 00 21 20 01 03 09 F7", {0, 0, 0}},   {"F0 41 36 00 22 20 01 03 09 F7", {0, 0, 0}},
+      {"F0 41 36 00 21 20 02 03 09 F7", {0, 0, 0}},
+  };
+  for (const auto& row : rows) {
+    Instrument::Receiver receiver;
+    receiver.Take(Bytes_Of(row.message));
+    for (const List_Id& list : {Tone, Patch, Tone_A, Tone_B, Patch_MKS70}) {
+      EXPECT_EQ(receiver.memory.Values(list)[3], list == row.list ? 9 : 0) << row.message;
+    }
+  }
+}
+
+TEST(Receiver, A_Parameter_Message_Holds_Pairs_Up_To_Its_End) {
+  Instrument::Receiver receiver;
+  // Ten characters of a name, a lone byte at the end, and no F7: the next status byte ends it.
+  receiver.Take(
+      Bytes_Of("F0 41 36 00 21 20 01 00 54 01 45 02 53 03 54 04 20 05 20 06 20 07 20 08 20 09 21 0F"));
+  receiver.Take(Bytes_Of("90 3C 40"));
+  EXPECT_EQ(receiver.memory.Values(Tone)[0], 'T');
+  EXPECT_EQ(receiver.memory.Values(Tone)[9], '!');
+  EXPECT_EQ(receiver.memory.Values(Tone)[15], 0);
+  EXPECT_TRUE(receiver.Sounds(0, 0x3C));
+  // A clock byte ends nothing; a number that the list does not have is passed over.
+  receiver.Take(Bytes_Of("F0 41 36 00 21 20 01 0B F8 7F 3B 11 0C 22 F7"));
+  EXPECT_EQ(receiver.memory.Values(Tone)[11], 0x7F);
+  EXPECT_EQ(receiver.memory.Values(Tone)[12], 0x22);
+}
+
+TEST(Receiver, Notes_Sound_Until_They_Are_Ended) {
+  const struct {
+    const char* stream;
+    int sounding;
+  } rows[] = {
+      {"90 3C 40 3E 40 40 40", 3},        // running status
+      {"90 3C 40 3C 40", 1},              // the same key again
+      {"90 3C 40 3C 00", 0},              // velocity 0
+      {"90 3C 40 80 3C 40", 0},           //
+      {"90 3C 40 91 3C 40 B0 7B 00", 1},  // all notes off: of its channel only
+      {"90 3C F8 40", 1},                 // real time in the middle
+      {"90 3C 40 F0 41 F7 3E 40", 1},     // nothing is in force behind a System Exclusive message
+      {"90 3C 40 F6 3E 40", 1},           // or a system common one
+      {"C0 05 06 90 3C 40", 1},           // one data byte each
+      {"00 3C 7F", 0},                    // no status at all
+      {"9F 3C 40 BF 7A 00", 1},           // another controller
+  };
+  for (const auto& row : rows) {
+    Instrument::Receiver receiver;
+    for (const char byte : Bytes_Of(row.stream)) receiver.Take(std::string_view(&byte, 1));
+    EXPECT_EQ(receiver.Sounding_Notes(), row.sounding) << row.stream;
+  }
+}
+
+TEST(Built_In, Transmits_Its_Tone_As_A_Dump) {
+  Post_Desktop desktop;
+  Instrument::Built_In instrument;
+  Midi::Service service({&instrument});
+  Test_Input input(service, Find_Input(service, "Built-in JX-8P"));
+  std::int32_t handle = -1;
+  ASSERT_EQ(service.Out_Open(handle, Find_Output(service, "Built-in JX-8P")), Midi_Ok);
+  MIDI_Header header;
+  header.data = Dump("F0 41 35 09 21 20 01") + "\xF7";
+  header.buffer_length = 67;
+  service.Out_Prepare(handle, header);
+  ASSERT_EQ(service.Out_Long(handle, header), Midi_Ok);
+  ASSERT_TRUE(Await([&] { return instrument.Values(Tone) == Counting_Tone(); }));
+  instrument.Transmit_Tone();
+  ASSERT_TRUE(desktop.Run_Until([&] { return !input.received.empty(); }));
+  EXPECT_EQ(Hex_Text(input.received[0]), Hex_Text(header.data));
+}
+
+// The instrument keeps no bytes, so the rig looks at them on their way into it.
+struct Tapped_Instrument final : Midi::Backend {
+  struct Tap final : Midi::Sink {
+    Tap(Tapped_Instrument& tapped, std::unique_ptr<Midi::Sink> sink)
+        : tapped_(tapped), sink_(std::move(sink)) {}
+    Midi::Write_Result Write(std::string_view bytes) override {
+      const Midi::Write_Result result = sink_->Write(bytes);
+      const std::lock_guard lock(tapped_.mutex);
+      if (result == Midi::Write_Result::Taken) tapped_.bytes += bytes;
+      return result;
+    }
+    bool Gone() const override { return sink_->Gone(); }
+
+   private:
+    Tapped_Instrument& tapped_;
+    std::unique_ptr<Midi::Sink> sink_;
+  };
+  void Refresh() override { instrument.Refresh(); }
+  std::vector<Midi::Port> Ports(Midi::Direction direction) override { return instrument.Ports(direction); }
+  std::unique_ptr<Midi::Sink> Open_Output(const Midi::Port& port) override {
+    return std::make_unique<Tap>(*this, instrument.Open_Output(port));
+  }
+  std::unique_ptr<Midi::Source> Open_Input(const Midi::Port& port, Midi::Byte_Receiver receiver) override {
+    return instrument.Open_Input(port, std::move(receiver));
+  }
+
+  Instrument::Built_In instrument;
+  std::mutex mutex;
+  Byte_String bytes;
+};
+
+struct Instrument_Rig final : Midi_Rig {
+  Tapped_Instrument tapped;
+  Midi::Service service{{&tapped}};
+
+  Midi_Service& Service() override { return service; }
+  std::string Device_Name() override { return "Built-in JX-8P"; }
+  Byte_String Received(std::size_t count) override {
+    Await([&] {
+      const std::lock_guard lock(tapped.mutex);
+      return tapped.bytes.size() >= count;
+    });
+    const std::lock_guard lock(tapped.mutex);
+    return std::exchange(tapped.bytes, {});
+  }
+};
+
+const Rig_Maker Over_Instrument{"Instrument", [] { return std::make_unique<Instrument_Rig>(); }};
+MIDI_RIGS(Midi_Contract, Over_Instrument);
+
+}  // namespace
