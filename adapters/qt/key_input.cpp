@@ -1,0 +1,65 @@
+#include "adapters/qt/key_input.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+
+#include "adapters/qt/control_view.h"
+#include "adapters/qt/form_view.h"
+#include "adapters/qt/frame_view.h"
+#include "adapters/qt/keys.h"
+#include "adapters/qt/shell.h"
+#include "platform/input.h"
+
+bool Key_Input::Filter(QWidget& receiver, QKeyEvent& event) {
+  // Open menus and drop-down lists, and a menu bar that is worked by keys, have their own ways.
+  if (QApplication::activePopupWidget() != nullptr || qobject_cast<QMenuBar*>(&receiver) != nullptr)
+    return false;
+  if (Target(receiver) == nullptr) return false;
+  switch (event.type()) {
+    case QEvent::ShortcutOverride:
+      // Accepting it keeps the toolkit's own shortcuts and access keys quiet. The key Alt alone leads to the
+      // menu bar.
+      if (event.key() == Qt::Key_Alt) return false;
+      event.accept();
+      return true;
+    case QEvent::KeyPress:
+      return Press(receiver, event);
+    default:
+      return shell_.Control_At(receiver) == nullptr;
+  }
+}
+
+// The form that keys go to: an independent one in its own window, else the active child, else the frame.
+Form* Key_Input::Target(const QWidget& receiver) const {
+  if (const Form_View* view = shell_.Form_At(*receiver.window())) return &view->form;
+  if (shell_.frame == nullptr || receiver.window() != &shell_.frame->Window()) return nullptr;
+  Form* active = Active_Form();
+  if (active != nullptr && active->role == Form_Role::Child) return active;
+  return &shell_.frame->form;
+}
+
+bool Key_Input::Press(QWidget& receiver, QKeyEvent& event) {
+  shell_.mouse.Send_Pending();
+  Form* form = Target(receiver);
+  if (form == nullptr) return true;
+  Control* control = form->focus;
+  bool used = true;
+  {
+    const Shell::Event scope(shell_);
+    used = Key_Down(*form, control, Key_Of(event), Character_Of(event));
+  }
+  if (!used && shell_.View_Of(*form) != nullptr && form->focus == control)
+    Leave_To_Widget(*form, receiver, event);
+  return true;
+}
+
+void Key_Input::Leave_To_Widget(Form& form, QWidget& receiver, QKeyEvent& event) {
+  if (form.role != Form_Role::Independent && shell_.frame->Open_Menu(Key_Of(event))) return;
+  const Control_View* view = shell_.Control_At(receiver);
+  const bool its_own = view != nullptr && &view->control == form.focus;
+  const bool leads_away = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+  if (!its_own || leads_away || !view->manner.native_keys || !Usable(view->control)) return;
+  // Straight to the widget: what it does not want must not wander up to its containers.
+  static_cast<QObject*>(&receiver)->event(&event);
+}

@@ -1,0 +1,107 @@
+#include "adapters/qt/picture_views.h"
+
+#include <QAccessible>
+#include <QPainter>
+#include <algorithm>
+
+#include "adapters/qt/look.h"
+#include "adapters/qt/qt_text.h"
+#include "adapters/qt/shell.h"
+
+void Light_Widget::paintEvent(QPaintEvent*) {
+  if (control == nullptr) return;
+  QPainter painter(this);
+  paint(painter);
+}
+
+Light_View::Light_View(Shell& the_shell, Control& the_control, QWidget& parent)
+    : Control_View(the_shell, the_control, *new Light_Widget(parent), {}) {
+  auto& light = static_cast<Light_Widget&>(widget);
+  light.control = &control;
+  light.paint = [this](QPainter& painter) { Paint(painter); };
+  light.setAccessibleName(To_Qt(control.spoken_name));
+}
+
+Light_View::~Light_View() { static_cast<Light_Widget&>(widget).control = nullptr; }
+
+void Light_View::Paint_Picture(QPainter& painter, const Picture& picture, QPoint place) {
+  const QPixmap pixmap = shell.pictures.Get(picture, widget.devicePixelRatioF());
+  if (!pixmap.isNull()) painter.drawPixmap(place, pixmap);
+}
+
+void Picture_Box_View::Show_Values() {
+  const auto& box = static_cast<const Picture_Box&>(control);
+  if (box.picture() != shown_) {
+    shown_ = box.picture();
+    widget.update();
+  }
+  Tell_Spoken_Value();
+}
+
+// A screen reader follows the element that has the focus.
+void Picture_Box_View::Tell_Spoken_Value() {
+  if (!control.spoken_value || !QAccessible::isActive()) return;
+  const QString spoken = To_Qt(control.spoken_value());
+  if (spoken == spoken_) return;
+  spoken_ = spoken;
+  QAccessibleEvent changed(&widget, QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&changed);
+}
+
+void Picture_Box_View::Paint(QPainter& painter) { Paint_Picture(painter, shown_, QPoint(0, 0)); }
+
+void Canvas_View::Show_Values() {
+  const auto& canvas = static_cast<const Canvas&>(control);
+  if (canvas.picture() != shown_picture_ || canvas.back_color() != shown_color_) {
+    shown_picture_ = canvas.picture();
+    shown_color_ = canvas.back_color();
+    widget.update();
+  }
+  const std::vector<Painted_Picture>& wanted = canvas.painted();
+  for (std::size_t place = 0; place < std::max(shown_.size(), wanted.size()); ++place) {
+    const bool same = place < shown_.size() && place < wanted.size() && shown_[place] == wanted[place];
+    if (same) continue;
+    if (place < shown_.size()) Repaint_Stroke(shown_[place]);
+    if (place < wanted.size()) Repaint_Stroke(wanted[place]);
+  }
+  shown_ = wanted;
+}
+
+void Canvas_View::Repaint_Stroke(const Painted_Picture& stroke) {
+  const QPixmap pixmap = shell.pictures.Get(stroke.picture, widget.devicePixelRatioF());
+  widget.update(QRect(QPoint(stroke.left_px, stroke.top_px), pixmap.deviceIndependentSize().toSize()));
+}
+
+void Canvas_View::Paint(QPainter& painter) {
+  painter.fillRect(widget.rect(), To_Qt(shown_color_));
+  Paint_Picture(painter, shown_picture_, QPoint(0, 0));
+  for (const Painted_Picture& stroke : shown_) {
+    Paint_Picture(painter, stroke.picture, QPoint(stroke.left_px, stroke.top_px));
+  }
+}
+
+Line_View::Line_View(Shell& the_shell, Control& the_control, QWidget& parent)
+    : Light_View(the_shell, the_control, parent) {
+  widget.setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+QRect Line_View::Place() const {
+  const auto& line = static_cast<const Line&>(control);
+  const QPoint corner(std::min(line.x1(), line.x2()), std::min(line.y1(), line.y2()));
+  const QPoint far_corner(std::max(line.x1(), line.x2()), std::max(line.y1(), line.y2()));
+  return {corner, far_corner};
+}
+
+void Line_View::Show_Values() {
+  const auto& line = static_cast<const Line&>(control);
+  const QLine wanted(line.x1(), line.y1(), line.x2(), line.y2());
+  if (wanted == shown_ && line.color() == shown_color_) return;
+  shown_ = wanted;
+  shown_color_ = line.color();
+  widget.update();
+}
+
+void Line_View::Paint(QPainter& painter) {
+  painter.setPen(To_Qt(shown_color_));
+  painter.drawLine(shown_.translated(-widget.pos()));
+}

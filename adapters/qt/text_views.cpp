@@ -1,0 +1,162 @@
+#include "adapters/qt/text_views.h"
+
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QTextCursor>
+#include <algorithm>
+
+#include "adapters/qt/look.h"
+#include "adapters/qt/qt_text.h"
+#include "adapters/qt/shell.h"
+#include "platform/input.h"
+#include "platform/text.h"
+
+namespace {
+
+// Paints its text itself: the toolkit's label shows an access key only if it may also act on it, which the
+// program does.
+struct Label_Widget final : QLabel {
+  explicit Label_Widget(QWidget& parent) : QLabel(&parent) { setTextFormat(Qt::PlainText); }
+
+  int flags = Qt::TextShowMnemonic;
+
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(rect(), flags, text());
+  }
+};
+
+int Flags_Of(Alignment alignment) {
+  switch (alignment) {
+    case Alignment::Left:
+      return Qt::AlignLeft;
+    case Alignment::Center:
+      return Qt::AlignHCenter;
+    case Alignment::Right:
+      return Qt::AlignRight;
+  }
+  return Qt::AlignLeft;
+}
+
+QWidget& Make_Text_Widget(const Control& control, QWidget& parent) {
+  if (static_cast<const Text_Box&>(control).multi_line) return *new QPlainTextEdit(&parent);
+  return *new QLineEdit(&parent);
+}
+
+}  // namespace
+
+Label_View::Label_View(Shell& the_shell, Control& the_control, QWidget& parent)
+    : Control_View(the_shell, the_control, *new Label_Widget(parent), {.greys = true}) {}
+
+void Label_View::Show_Values() {
+  const auto& label = static_cast<const Label&>(control);
+  auto& shown = static_cast<Label_Widget&>(widget);
+  const QString text = With_Line_Feeds(label.caption());
+  int flags = Qt::TextShowMnemonic | Qt::AlignTop | Flags_Of(label.alignment());
+  if (label.wraps()) flags |= Qt::TextWordWrap;
+  if (shown.flags != flags || shown.text() != text) {
+    shown.flags = flags;
+    shown.setText(text);
+    shown.update();
+  }
+  shown.setAccessibleName(
+      To_Qt(label.spoken_name.empty() ? Plain_Caption(label.caption()) : label.spoken_name));
+  shown.setAutoFillBackground(label.own_colors());
+  Set_Colors(shown, label.own_colors(), label.fore_color(), label.back_color());
+}
+
+Text_Box_View::Text_Box_View(Shell& the_shell, Control& the_control, QWidget& parent)
+    : Control_View(the_shell, the_control, Make_Text_Widget(the_control, parent),
+                   {.native_mouse = true, .native_keys = true, .greys = true}) {
+  widget.setAccessibleName(To_Qt(control.spoken_name));
+  if (!Box().read_only) widget.setContextMenuPolicy(Qt::DefaultContextMenu);
+  if (auto* line = dynamic_cast<QLineEdit*>(&widget)) Listen(*line);
+  if (auto* field = dynamic_cast<QPlainTextEdit*>(&widget)) Listen(*field);
+}
+
+void Text_Box_View::Listen(QLineEdit& line) {
+  line.setReadOnly(Box().read_only);
+  if (Box().read_only) line.setCursor(Qt::ArrowCursor);
+  if (Box().max_length > 0) line.setMaxLength(Box().max_length);
+  const auto report = [this, &line] {
+    const int start = line.hasSelectedText() ? line.selectionStart() : line.cursorPosition();
+    Report_Typed(line.text(), start, start + line.selectionLength());
+  };
+  QObject::connect(&line, &QLineEdit::textEdited, &line, report);
+  QObject::connect(&line, &QLineEdit::selectionChanged, &line, report);
+  QObject::connect(&line, &QLineEdit::cursorPositionChanged, &line, report);
+}
+
+void Text_Box_View::Listen(QPlainTextEdit& field) {
+  field.setReadOnly(Box().read_only);
+  field.setTabChangesFocus(true);
+  const auto report = [this, &field] {
+    const QTextCursor cursor = field.textCursor();
+    Report_Typed(field.toPlainText(), cursor.selectionStart(), cursor.selectionEnd());
+  };
+  QObject::connect(&field, &QPlainTextEdit::textChanged, &field, report);
+  QObject::connect(&field, &QPlainTextEdit::cursorPositionChanged, &field, report);
+  QObject::connect(&field, &QPlainTextEdit::selectionChanged, &field, report);
+}
+
+void Text_Box_View::Report_Typed(const QString& text, int start_unit, int end_unit) {
+  const int start = Characters_Of(text, start_unit);
+  const int length = Characters_Of(text, end_unit) - start;
+  Report([&box = Box(), typed = From_Qt(text), start, length] { User_Typed(box, typed, start, length); });
+}
+
+void Text_Box_View::Show_Values() {
+  const QSignalBlocker from_the_program(widget);
+  Set_Colors(widget, Box().own_colors(), Box().fore_color(), Box().back_color());
+  Show_Face();
+  if (auto* line = dynamic_cast<QLineEdit*>(&widget)) Show_Line(*line);
+  if (auto* field = dynamic_cast<QPlainTextEdit*>(&widget)) Show_Field(*field);
+}
+
+// A face of the program's own fills the height of the field.
+void Text_Box_View::Show_Face() {
+  const QString face = To_Qt(Box().font_face());
+  if (face == shown_face_) return;
+  shown_face_ = face;
+  QFont font;
+  if (!face.isEmpty()) {
+    font.setFamily(face);
+    int size_px = std::max(control.height(), 1);
+    do {
+      font.setPixelSize(size_px);
+    } while (QFontMetrics(font).height() > control.height() && --size_px > 1);
+  }
+  widget.setFont(font);
+}
+
+void Text_Box_View::Show_Line(QLineEdit& line) {
+  line.setFrame(!Box().own_colors());
+  const QString text = To_Qt(Box().text());
+  if (line.text() != text) line.setText(text);
+  const int start = Units_Of(text, Box().selection_start());
+  const int end = Units_Of(text, Box().selection_start() + Box().selection_length());
+  const int shown_start = line.hasSelectedText() ? line.selectionStart() : line.cursorPosition();
+  if (shown_start == start && line.selectionLength() == end - start) return;
+  if (end > start) {
+    line.setSelection(start, end - start);
+  } else {
+    line.setCursorPosition(start);
+  }
+}
+
+void Text_Box_View::Show_Field(QPlainTextEdit& field) {
+  const QString text = With_Line_Feeds(Box().text());
+  if (field.toPlainText() != text) field.setPlainText(text);
+  QTextCursor cursor = field.textCursor();
+  const int start = Units_Of(text, Box().selection_start());
+  const int end = Units_Of(text, Box().selection_start() + Box().selection_length());
+  if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
+  cursor.setPosition(start);
+  cursor.setPosition(end, QTextCursor::KeepAnchor);
+  field.setTextCursor(cursor);
+}
