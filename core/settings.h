@@ -1,0 +1,32 @@
+// The settings of a run: read at the load of the frame, written when it unloads.
+// Called by the frame; single values are changed by the windows that show them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+extern std::uint8_t Autoplay;             // 1: the file dialog plays what is clicked
+extern std::uint8_t Soundcheck;           // what it plays for a tone: 0 a note, 1 the sequence
+extern std::uint8_t Soundcheck_Note;      // [24, 72]
+extern std::uint8_t Soundcheck_Velocity;  // [0, 127]
+
+// Directories of the file dialog: program paths in lower case with a "\" behind them.
+extern std::string Dir_Tones;
+extern std::string Dir_Sequences;
+extern std::string Dir_Oscillators;
+
+// Places the frame, then reads everything but the keys that the MIDI start has read. Noise counts as the
+// default.
+void Settings_Load();
+
+// Writes everything, in one replacement of the file. A failure is ignored.
+void Settings_Save();
+
+// Version number of the platform, as 4.10; only compared with 3.95, which stands between two default frame
+// sizes.
+double Windows_Version();
+constexpr double Version_Of_New_Frames = 3.95;
+
+// The part of a path behind a directory that ends in "\"; the program's captions show files so.
+// path no longer than the directory: empty.
+std::string Path_Behind(const std::string& path, std::size_t directory_length);

@@ -1,0 +1,230 @@
+#include "core/tone_files.h"
+
+#include <array>
+
+#include "core/recent.h"
+#include "core/records.h"
+#include "core/settings.h"
+#include "core/sysex.h"
+#include "core/tone_params.h"
+#include "midi/state.h"
+#include "platform/convert.h"
+#include "platform/desktop.h"
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+#include "windows/file_dlg_window.h"
+#include "windows/frame_window.h"
+#include "windows/modal.h"
+#include "windows/state.h"
+
+std::uint8_t Tone_Found = Flag_Off;
+int File_Error = 0;
+
+namespace {
+
+constexpr std::uint8_t SysEx_Start = 0xF0;
+constexpr int Head_Size = 7;
+constexpr std::string_view Tone_Head_Form = "F0 41 35 ?? 21 20 01 ";
+constexpr std::string_view Patch_Head_Form = "F0 41 36 ?? 21 30 01 ";
+constexpr int Patch_Message_Step =
+    12;  // one less than the message is long: its last value is looked at again
+constexpr std::size_t Read_Limit = 32768;  // one byte more than the 16-bit position can reach
+
+// The bytes of a file under a 1-based position of 16 bits.
+struct Reader {
+  bool At_End() const { return static_cast<std::size_t>(position) > bytes.size(); }
+
+  // Runtime_Error 62 behind the end.
+  std::uint8_t Byte(int place) const {
+    if (static_cast<std::size_t>(place) > bytes.size()) throw Runtime_Error(Error_Past_End);
+    return static_cast<std::uint8_t>(bytes[static_cast<std::size_t>(place) - 1]);
+  }
+
+  // Runtime_Error 6 beyond 32,767.
+  void Step(int count) { position = To_Int16(position + count); }
+
+  Byte_String bytes;
+  int position = 1;
+};
+
+struct Scan {
+  Reader file;
+  std::string head;  // grows behind a foreign message, and then matches nothing any more
+  bool tone_taken = false;
+  bool tone_at_start = false;
+};
+
+void Take_Head(Scan& scan) {
+  for (int place = 0; place < Head_Size; ++place) {
+    const int position = scan.file.position + place;
+    if (static_cast<std::size_t>(position) <= scan.file.bytes.size())
+      scan.head += Hex_2(scan.file.Byte(position)) + " ";
+  }
+  scan.file.Step(Head_Size);
+}
+
+// Asks about a further tone. False: the scan ends.
+bool Take_Further_Tone(Scan& scan, Load_Mode mode) {
+  if (mode == Load_Mode::Open) {
+    const Answer answer =
+        Message_Box("File contains another TONE. Save old TONE first?", Box_Yes_No + Box_Question);
+    if (answer == Answer::Yes) {
+      Tone_SaveAs();
+      if (Tone_Saved == Flag_True) scan.tone_taken = false;
+    }
+    return true;
+  }
+  const Answer answer = Message_Box("File contains another TONE. Load it?", Box_Yes_No + Box_Question);
+  if (answer != Answer::Yes) return false;
+  if (Tone_Saved == Flag_True) scan.tone_taken = false;
+  return true;
+}
+
+void Take_Tone(Scan& scan) {
+  Byte_Record<Tone_Size> tone;
+  for (int index = 0; index < Tone_Size; ++index) tone[index] = scan.file.Byte(scan.file.position + index);
+  Tone = tone;
+  scan.file.Step(Tone_Size);
+  Tone_Found = Flag_On;
+  Tone_Loading = Flag_On;  // a Save As for the tone before may have ended the loading
+  Tone_Show();
+  scan.head.clear();
+  scan.tone_taken = true;
+}
+
+void Take_Patch(Scan& scan, Load_Mode mode) {
+  Byte_Record<Patch_Size> patch = Patch_Rec;
+  for (int index = 0; index < Patch_Sent; ++index)
+    patch[index] = scan.file.Byte(scan.file.position + 1 + 2 * index);
+  Patch_Rec = patch;
+  scan.file.Step(Patch_Message_Step);
+  if (mode == Load_Mode::Open && Patch_Open == Flag_On) Patch_Show();
+  scan.head.clear();
+}
+
+// One message from its F0 on. False: the scan ends.
+bool Take_Message(Scan& scan, Load_Mode mode) {
+  Take_Head(scan);
+  if (Has_Form(scan.head, Tone_Head_Form)) {
+    scan.tone_at_start = scan.file.position == 1 + Head_Size;
+    if (scan.tone_taken && !Take_Further_Tone(scan, mode)) return false;
+    Take_Tone(scan);
+  } else if (Has_Form(scan.head, Patch_Head_Form) && scan.tone_at_start) {
+    Take_Patch(scan, mode);
+  }
+  if (Autosend == 1) SysEx_Dump_Send();
+  return true;
+}
+
+void Finish_Open(const std::string& path) {
+  if (Tone_Found == Flag_Off) {
+    Message_Box("Wrong MIDI system exclusive data!", Box_Stop);
+    return;
+  }
+  MELVOR.caption = "MELVOR - " + Upper(path);
+  MELVOR.Menu_File_SYX_Save.enabled = true;
+  Recent_Tone_Add(path);
+  Tone_File = path;
+  Tone_Loading = Flag_Off;
+  FD_Done = Flag_On;
+}
+
+void Scan_File(const std::string& path, Load_Mode mode) {
+  Scan scan;
+  scan.file.bytes = File_Read(path, Read_Limit);
+  while (!scan.file.At_End()) {
+    if (scan.file.Byte(scan.file.position) == SysEx_Start && !Take_Message(scan, mode)) return;
+    scan.file.Step(1);
+  }
+  if (mode == Load_Mode::Open) Finish_Open(path);
+}
+
+void Tell_File_Error(const Runtime_Error& error) {
+  if (error.number == Error_Cancelled) return;
+  if (error.number == Error_Bad_File_Name) {
+    Message_Box("Wrong filename!", Box_Stop);
+  } else {
+    Message_Box("Error " + std::to_string(error.number) + ": " + std::string(Error_Text(error.number)),
+                Box_Stop);
+  }
+}
+
+void Show_Title() {
+  MELVOR.caption = "MELVOR - " + Upper(Tone_Title);
+  MELVOR.Menu_File_SYX_Save.enabled = true;
+}
+
+// One round of Save As. False: the user wants to choose another name.
+bool Save_As_Round() {
+  Dlg_Kind = "SaveAs_SYX";
+  Show(File_Dlg);
+  Dlg_Wait();
+  if (!Active_Dlg.empty()) return true;  // the program ends
+  if (!Tone_File.empty()) {
+    const bool root = Has_Form(Dir_Tones, "?:\\");
+    Tone_Title = Path_Behind(Tone_File, Dir_Tones.size() + (root ? 0 : 1));
+  }
+  if (File_Exists(Tone_File) == Flag_False) {
+    Tone_Save();
+    Show_Title();
+    return true;
+  }
+  const Answer answer =
+      Message_Box("File exists: " + Tone_File + " Overwrite?", Box_Yes_No_Cancel + Box_Stop);
+  if (answer == Answer::Yes) Tone_Save();
+  return answer != Answer::No;
+}
+
+}  // namespace
+
+void Tone_Load(const std::string& path, Load_Mode mode) {
+  Tone_Found = Flag_Off;
+  if (File_Exists(path) != Flag_True) {
+    Message_Box("File not found: " + path);
+    return;
+  }
+  Tone_Loading = Flag_On;
+  try {
+    Scan_File(path, mode);
+  } catch (const Runtime_Error& error) {
+    Tell_File_Error(error);
+  }
+}
+
+void Tone_Save() {
+  File_Error = 0;
+  SysEx_Heads_Build();
+  SysEx_Image_Build();
+  const std::string_view image(reinterpret_cast<const char*>(SysEx_Image.data()), SysEx_Image.size());
+  try {
+    File_Keep_Copy(Tone_File, image);
+    File_Write(Tone_File, image, Old_Content::Keep_Tail);
+    Recent_Tone_Add(Tone_File);
+    Tone_Saved = Flag_True;
+    MELVOR.Menu_Edit_Undo.enabled = false;
+  } catch (const Runtime_Error& error) {
+    Tell_File_Error(error);
+  }
+}
+
+void Tone_SaveAs() {
+  try {
+    while (!Save_As_Round()) continue;
+  } catch (const Runtime_Error& error) {
+    if (error.number == Error_Cancelled || error.number == Error_File_Not_Found) return;
+    if (error.number == Error_Bad_File_Name) {
+      Message_Box("Wrong filename!", Box_Stop);
+    } else {
+      Message_Box(
+          "SaveAs Error " + std::to_string(error.number) + " : " + std::string(Error_Text(error.number)),
+          Box_Stop);
+    }
+  }
+}
+
+int File_Exists(std::string_view path) {
+  if (path.ends_with('\\')) path.remove_suffix(1);
+  File_Error = path.empty() ? 0 : File_Probe(path);
+  return File_Error == 0 ? Flag_True : Flag_False;
+}

@@ -1,0 +1,29 @@
+// Tone files: raw System Exclusive, 89 bytes as written; the reader scans any file for the first form it
+// knows. Called by the menus and by the file dialog.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// How a file is loaded: for real, or as the preview of the file dialog.
+enum class Load_Mode { Open, Soundcheck };
+
+// Flag_On when the last load has met at least one tone.
+extern std::uint8_t Tone_Found;
+
+// Loads the first tone of the file (asking about further ones) and its patch. Failures are told in boxes; a
+// tone that the end of the file cuts short leaves Tone as it was. With Autosend on, a dump goes out after
+// each message. A preview leaves Tone_Loading at Flag_On.
+void Tone_Load(const std::string& path, Load_Mode mode);
+
+// Writes Tone_File. Failures are told in boxes; then the old file is whole and Tone_Saved as it was.
+void Tone_Save();
+
+// Runs the file dialog in the kind "SaveAs_SYX", then asks about an existing file and saves.
+void Tone_SaveAs();
+
+// Flag_True if the path can be opened for reading, Flag_False if not. A single trailing "\" is taken off; an
+// empty path is not opened and counts as there. The error number is kept in File_Error, 0 for none.
+int File_Exists(std::string_view path);
+extern int File_Error;

@@ -1,0 +1,90 @@
+#include "windows/focus_mark.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/text.h"
+#include "windows/editor_window.h"
+#include "windows/help_window.h"
+#include "windows/patch_window.h"
+#include "windows/pictures.h"
+#include "windows/state.h"
+
+Picture_Box* Active_Ctl = nullptr;
+Picture_Box* Saved_Ctl = nullptr;
+int Blink_Phase = 0;
+int Help_Context = 0;
+int Knob_Last_X = 0;
+int Key_Mode_Sel = 0;
+int After_Touch_Sel = 0;
+
+namespace {
+
+using Store = Picture (*)(int index);
+
+struct Mark_Row {
+  std::string_view tag;
+  Store store;
+  int rest;           // place of the picture at rest; the blink shows rest + phase
+  Picture_Box* mark;  // the element that shows the mark; nullptr: the selected one
+};
+
+constexpr std::string_view Light_Tag = "led";
+constexpr std::string_view Caret_Tag = "cur";
+
+const std::array Mark_Rows{
+    Mark_Row{"bm", Buttons, Slider_Cap, nullptr},
+    Mark_Row{"bl", Buttons, Cap_Left_Lamp, nullptr},
+    Mark_Row{"br", Buttons, Cap_Right_Lamp, nullptr},
+    Mark_Row{"kn1", Buttons, Knob_Dot, &Editor.DCO1_Tune_Knopf},
+    Mark_Row{"kn2", Buttons, Knob_Dot, &Editor.DCO2_Tune_Knopf},
+    Mark_Row{"kn2f", Buttons, Knob_Dot, &Editor.DCO2_FTune_Knopf},
+    Mark_Row{"kn2fp", Buttons, Knob_Dot, &Patch.UDTune_Knopf},
+    Mark_Row{"knh", Buttons, Knob_Dot, &Help.Tune_Knopf},
+    Mark_Row{Light_Tag, LED, LED_Dark, nullptr},
+};
+
+const Mark_Row* Row_Of(std::string_view tag) {
+  const auto row = std::ranges::find(Mark_Rows, tag, &Mark_Row::tag);
+  return row == Mark_Rows.end() ? nullptr : &*row;
+}
+
+void Show_Mark(const Mark_Row& row, int phase) {
+  Picture_Box& element = row.mark == nullptr ? *Active_Ctl : *row.mark;
+  if (row.mark == &Patch.UDTune_Knopf) Load(Patch);  // the knob of another window bears the same tag
+  element.picture = row.store(row.rest + phase);
+}
+
+// The line on a caret's picture takes turns between two colours.
+void Show_Caret(const Picture_Box& caret, int phase) {
+  for (Control* control : caret.form.controls) {
+    if (control->container != &caret || control->kind != Kind::Line) continue;
+    static_cast<Line*>(control)->color = phase == 0 ? Black : Cyan;
+  }
+}
+
+// A light that rests is dark, but the chosen ones of the Patch window stay lit.
+void Light_Chosen() {
+  if (Patch_Open != Flag_On) return;
+  Patch.After_Touch[static_cast<std::size_t>(After_Touch_Sel)].picture = LED(LED_Red);
+  Patch.Key_Mode[static_cast<std::size_t>(Key_Mode_Sel)].picture = LED(LED_Red);
+}
+
+}  // namespace
+
+void Ctl_Blink() {
+  if (Active_Ctl == nullptr) return;
+  Help_Context = Active_Ctl->help_context;
+  const std::string tag = Active_Ctl->tag();
+  if (tag == Caret_Tag) Show_Caret(*Active_Ctl, Blink_Phase);
+  if (const Mark_Row* row = Row_Of(tag)) Show_Mark(*row, Blink_Phase);
+}
+
+void Ctl_Deselect() {
+  Knob_Last_X = 0;
+  if (Active_Ctl == nullptr) return;
+  const Mark_Row* row = Row_Of(Lower(Active_Ctl->tag()));
+  if (row == nullptr) return;
+  Show_Mark(*row, 0);
+  if (row->tag == Light_Tag) Light_Chosen();
+}
