@@ -1,0 +1,109 @@
+#include "panel/patch_lights.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "panel/patch.h"
+#include "platform/convert.h"
+#include "platform/form.h"
+#include "windows/focus_mark.h"
+#include "windows/patch_window.h"
+#include "windows/pictures.h"
+
+namespace {
+
+struct Light_Group {
+  int index;  // in Patch_Rec
+  std::span<Picture_Box> items;
+  std::span<const std::uint8_t> values;  // of the items; there is no 3
+  int& selection;
+  int up;      // what the upward keys add to the selection
+  int lowest;  // that a key can ask for
+};
+
+constexpr std::array<std::uint8_t, 6> Key_Mode_Values{0, 1, 2, 4, 5, 6};
+constexpr std::array<std::uint8_t, 4> After_Touch_Values{0, 1, 2, 4};
+
+// Key mode has no lower bound: a step below item 0 overflows.
+const std::array Groups{
+    Light_Group{Patch_Key_Mode, Patch.Key_Mode, Key_Mode_Values, Key_Mode_Sel, -1, -1},
+    Light_Group{Patch_After_Touch, Patch.After_Touch, After_Touch_Values, After_Touch_Sel, 1, 0},
+};
+const Light_Group& Key_Mode_Group = Groups[0];
+const Light_Group& After_Touch_Group = Groups[1];
+
+const Light_Group& Group_Of(int index) {
+  return index == Patch_Key_Mode ? Key_Mode_Group : After_Touch_Group;
+}
+
+Picture_Box& Selected(const Light_Group& group) {
+  return group.items[static_cast<std::size_t>(group.selection)];
+}
+
+void Light(const Light_Group& group, int item) {
+  for (Picture_Box& light : group.items) light.picture = LED(LED_Dark);
+  group.items[static_cast<std::size_t>(item)].picture = LED(LED_Red);
+}
+
+void Choose_Item(const Light_Group& group, int item) {
+  Ctl_Deselect();
+  group.selection = item;
+  Active_Ctl = &Selected(group);
+  Light(group, item);
+  Patch_SetValue(group.index, group.values[static_cast<std::size_t>(item)]);
+}
+
+void Step(const Light_Group& group, int added) {
+  const int last = static_cast<int>(group.items.size()) - 1;
+  Choose_Item(group, To_Byte(Clamp(group.selection + added, group.lowest, last)));
+}
+
+void Go_To(Key_Event& key, Picture_Box& element) {
+  key.code = 0;
+  Ctl_Deselect();
+  Set_Focus(element);
+}
+
+// The key that goes back is told by a code that consists of the shift state and the digit 9, so that the code
+// of Tab itself goes forward, with Shift too.
+bool Is_Back_Tab(const Key_Event& key) { return key.code == key.shift * 10 + Key::Tab; }
+
+void Group_Key(const Light_Group& group, Key_Event& key) {
+  const bool key_mode = group.index == Patch_Key_Mode;
+  if (key.code == Key::Up || key.code == Key::Page_Up) {
+    Step(group, group.up);
+  } else if (key.code == Key::Down || key.code == Key::Page_Down) {
+    Step(group, -group.up);
+  } else if (key.code == Key::Tab) {
+    Go_To(key, key_mode ? Selected(After_Touch_Group) : Patch.UDTune);
+  } else if (Is_Back_Tab(key)) {
+    Go_To(key, key_mode ? Patch.Pitch_Bend_Range : Selected(Key_Mode_Group));
+  }
+}
+
+void Wire_Item(const Light_Group& group, int item) {
+  Picture_Box& light = group.items[static_cast<std::size_t>(item)];
+  light.on_got_focus = [&group] { Active_Ctl = &Selected(group); };
+  light.on_lost_focus = Ctl_Deselect;
+  light.on_click = [&group, item] { Choose_Item(group, item); };
+  light.on_key_down = [&group](Key_Event& key) { Group_Key(group, key); };
+  light.spoken_value = [&group, item] { return Patch_Control_Top(group.index) == item ? "on" : "off"; };
+}
+
+}  // namespace
+
+void Patch_Lights_Wire() {
+  for (const Light_Group& group : Groups) {
+    for (int item = 0; item < static_cast<int>(group.items.size()); ++item) Wire_Item(group, item);
+  }
+}
+
+int Patch_Light_Of(int index, int value) {
+  const auto values = Group_Of(index).values;
+  const auto found = std::ranges::find(values, value);
+  return found == values.end() ? 0 : static_cast<int>(found - values.begin());
+}
+
+void Patch_Lights_Show(int index, int item) { Light(Group_Of(index), item); }
