@@ -1,0 +1,148 @@
+#include "sequencer/seq_files.h"
+
+#include <cstdlib>
+
+#include "core/recent.h"
+#include "core/settings.h"
+#include "platform/convert.h"
+#include "platform/desktop.h"
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+#include "sequencer/model.h"
+#include "sequencer/seq_clock.h"
+#include "sequencer/seq_pictures.h"
+#include "sequencer/seq_transport.h"
+#include "sequencer/seq_window.h"
+#include "windows/file_dlg_window.h"
+#include "windows/frame_window.h"
+#include "windows/modal.h"
+#include "windows/sequencer_window.h"
+#include "windows/state.h"
+
+namespace {
+
+// The file, byte by byte.
+constexpr std::string_view File_Head = "SEQ1";
+constexpr std::size_t Version_Place = 3;  // the reader takes any version
+constexpr std::size_t Speed_Place = 4;
+constexpr std::size_t Base_Note_Place = 5;
+constexpr std::size_t Cells_Place = 6;
+constexpr std::size_t File_Size = Cells_Place + static_cast<std::size_t>(Seq_Cell_Count);
+
+constexpr int Preview_Pitch_px = 8;
+constexpr int Preview_Margin_px = 1;
+
+void Name_From(const std::string& path) { Seq_Name = Path_Behind(path, Dir_Sequences.size()); }
+
+bool Acceptable(const Byte_String& bytes) {
+  return bytes.size() == File_Size &&
+         Same_Text(bytes.substr(0, Version_Place), File_Head.substr(0, Version_Place));
+}
+
+int Byte_At(const Byte_String& bytes, std::size_t place) { return static_cast<std::uint8_t>(bytes[place]); }
+
+void Show_In_Lists() {
+  Sequencer.Seq_Tempo.Set_Value(Seq_Speed);
+  Sequencer.Seq_Range.Select(Seq_Range_Index);
+  Sequencer.caption = Seq_Caption();
+}
+
+void Draw_Preview() {
+  Canvas& preview = File_Dlg.FD_SEQ_Preview;
+  preview.Clear();
+  for (int index = 0; index < Seq_Cell_Count; ++index) {
+    preview.Paint(Look_Of(Seq_Data[static_cast<std::size_t>(index)]).preview,
+                  index / Seq_Row_Count * Preview_Pitch_px + Preview_Margin_px,
+                  index % Seq_Row_Count * Preview_Pitch_px + Preview_Margin_px);
+  }
+}
+
+void Take(const Byte_String& bytes, bool into_window) {
+  Seq_Speed = std::min(Byte_At(bytes, Speed_Place), Seq_Fastest);
+  Seq_Base_Note = Byte_At(bytes, Base_Note_Place);
+  Seq_Range_Index =
+      std::abs(Round_16((Seq_Base_Note - Seq_Lowest_Note) / static_cast<double>(Semitones_In_Octave)));
+  Seq_Interval_Set();
+  if (into_window) Show_In_Lists();
+  for (std::size_t index = 0; index < Seq_Data.size(); ++index) {
+    Seq_Data[index] = To_Int16(Byte_At(bytes, Cells_Place + index));
+  }
+  if (FD_Open == Flag_True) Draw_Preview();
+  if (into_window) Seq_Redraw();
+  Seq_Loaded = Flag_On;
+}
+
+void Mark_Opened(const std::string& path) {
+  MELVOR.Menu_File_Seq_Save.enabled = true;
+  Recent_Seq_Add(path);
+  Seq_File = path;
+  FD_Done = Flag_On;
+  Seq_Saved = Flag_On;
+  Seq_Buttons_On();
+}
+
+void Load_File(const std::string& path, Load_Mode mode) {
+  if (File_Exists(path) == Flag_False) {
+    Message_Box("File not found: " + path);
+    return;
+  }
+  const Byte_String bytes = File_Read(path, File_Size);
+  if (Acceptable(bytes)) Take(bytes, mode == Load_Mode::Open && Seq_Open == Flag_On);
+  if (mode != Load_Mode::Open) return;
+  if (Seq_Loaded == Flag_On) {
+    Mark_Opened(path);
+  } else {
+    Message_Box("Wrong SEQUENCE format!", Box_Stop);
+  }
+}
+
+void Tell(const Runtime_Error& error) {
+  if (error.number == Error_Cancelled) return;
+  if (error.number == Error_Bad_File_Name) {
+    Message_Box("Wrong filename!", Box_Stop);
+    return;
+  }
+  Message_Box("Error " + std::to_string(error.number) + ": " + std::string(Error_Text(error.number)),
+              Box_Stop);
+}
+
+Byte_String File_Image() {
+  Byte_String image(File_Head);
+  image += static_cast<char>(Seq_Speed);
+  image += static_cast<char>(Seq_Base_Note);
+  for (const std::int16_t cell : Seq_Data) image += static_cast<char>(cell);
+  return image;
+}
+
+}  // namespace
+
+void Seq_Load(const std::string& path, Load_Mode mode) {
+  Name_From(path);
+  try {
+    Load_File(path, mode);
+  } catch (const Runtime_Error& error) {
+    Tell(error);
+  }
+  MELVOR.pointer = Pointer_Shape::Default;
+}
+
+void Seq_Save() {
+  const Byte_String image = File_Image();
+  File_Keep_Copy(Seq_File, image);
+  File_Write(Seq_File, image, Old_Content::Keep_Tail);
+  Recent_Seq_Add(Seq_File);
+  Name_From(Seq_File);
+  if (Seq_Open == Flag_On) Sequencer.caption = Seq_Caption();
+  MELVOR.Menu_File_Seq_Save.enabled = true;
+  Seq_Saved = Flag_On;
+}
+
+void Seq_SaveAs() {
+  Dlg_Kind = "SaveAs_SEQ";
+  Show(File_Dlg);
+  Dlg_Wait();
+  FD_Done = Flag_Off;
+}
+
+std::string Seq_Caption() { return Seq_Name.empty() ? "Sequencer" : "Sequencer - " + Upper(Seq_Name); }

@@ -1,0 +1,37 @@
+// Starting and stopping the clock: every place that does so, and the buttons that show it.
+// Called by the buttons of the Editor, the Sequencer and the file dialog, by menus, and by windows that
+// close. Each stop ends with Seq_Tmr off, Seq_Running off, and All Notes Off sent: notes are ended by nothing
+// else.
+#pragma once
+
+// The Editor's buttons. Start does nothing without a sequence, loaded or drawn; it takes step 0 in every
+// direction. Stop ends the wait for a tone instead, while that runs; else it closes the output too.
+void ED_Seq_Start_Click();
+void ED_Seq_Stop_Click();
+
+// The Sequencer's buttons. Start is refused with MIDI off; it takes step 7 if the direction is backward.
+void Seq_Start_Click();
+void Seq_Stop_Click();
+
+// The file dialog's buttons. Start REQUIRES MIDI_Enabled 1 and Seq_Loaded, else it does nothing. Stop closes
+// the output.
+void Seq_Start_Play();
+void Seq_Stop_Play();
+
+// The tone file menu has been opened: a running clock stops, and the output closes.
+void Seq_Stop_For_Tone_Menu();
+// The MIDI setup is about to open: a running clock stops; the setup closes the output itself. Nothing with
+// MIDI off.
+void Seq_Stop_For_Setup();
+// The menu command that closes the output, with or without a running clock.
+void Menu_MIDI_CloseOutput();
+
+// The start buttons of the Editor and, if it is open, of the Sequencer go down and up together.
+void Seq_Start_Faces_Down();
+void Seq_Start_Faces_Up();
+// A start button was released: it springs back unless the clock runs.
+void Seq_Start_Release();
+
+// The Editor's start and stop symbols: whether there is something to play.
+void Seq_Buttons_On();
+void Seq_Buttons_Off();
