@@ -1,0 +1,140 @@
+#include "filebrowser/confirm.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "core/records.h"
+#include "core/tone_commands.h"
+#include "core/tone_files.h"
+#include "filebrowser/state.h"
+#include "platform/desktop.h"
+#include "platform/profile_file.h"
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+#include "sequencer/model.h"
+#include "sequencer/seq_files.h"
+#include "windows/file_dlg_window.h"
+#include "windows/state.h"
+
+namespace {
+
+constexpr std::string_view No_Choice = "*.syx";  // the text that saves nothing, for sequences too
+constexpr int Longest_Extension = 4;
+
+std::string Typed() { return File_Dlg.FD_FileName.text(); }
+
+std::string Typed_Path() { return Path_Slash(FD_Dir) + Trim(Typed()); }
+
+void Show_Directory_Of_Files() { File_Dlg.FD_List_Dirs.Set_Path(File_Dlg.FD_List_Files.path()); }
+
+// --- loading
+
+using Loader = void (*)(const std::string& path, Load_Mode mode);
+
+void Open_Typed(bool show_directory, Loader load) {
+  File_Dlg.FD_List_Files.Set_File_Name(Typed());
+  if (show_directory) Show_Directory_Of_Files();
+  const std::string path = Typed_Path();
+  if (File_Exists(path) == Flag_True && load != nullptr) load(path, Load_Mode::Open);
+}
+
+// --- saving
+
+bool May_Write(const std::string& path) {
+  if (File_Exists(path) == Flag_False) return true;
+  return Message_Box("File exists: " + path + " Overwrite?", Box_Yes_No + Box_Stop, "Write TONE file") ==
+         Answer::Yes;
+}
+
+// The tone's flag decides for both kinds of files.
+void Save_Typed(std::string& file, void (*save)()) {
+  file = Lower(Typed_Path());
+  if (!May_Write(file)) return;
+  save();
+  if (Tone_Saved == Flag_True) FD_Done = Flag_On;
+}
+
+void Confirm_Save_Tone() {
+  Show_Directory_Of_Files();
+  if (Lower(Typed()) == No_Choice) return;
+  Save_Typed(Tone_File, Tone_Save);
+  Undo_Restore_Quiet();
+}
+
+void Confirm_Save_Sequence() {
+  Show_Directory_Of_Files();
+  if (Lower(Typed()) != No_Choice) Save_Typed(Seq_File, Seq_Save);
+}
+
+// The name alone is taken; Save As goes on behind the dialog.
+void Pick_Tone_Name() {
+  if (Lower(Typed()) == No_Choice) return;
+  Tone_File = Lower(Typed_Path());
+  FD_Done = Flag_On;
+  Tone = Tone_Undo;
+  Patch_Rec = Patch_Undo;
+}
+
+// --- by kind
+
+struct Action_Row {
+  std::string_view kind;
+  void (*confirm)();
+  void (*double_click)();
+};
+
+void Nothing() {}
+
+constexpr std::array Action_Rows{
+    Action_Row{"Open_SYX", [] { Open_Typed(false, Tone_Load); }, [] { Open_Typed(true, Tone_Load); }},
+    Action_Row{"Open_SEQ", [] { Open_Typed(true, Seq_Load); }, [] { Open_Typed(true, Seq_Load); }},
+    Action_Row{"Open_OSC", [] { Open_Typed(true, nullptr); }, Nothing},
+    Action_Row{"SaveAs_SYX", Confirm_Save_Tone, Pick_Tone_Name},
+    Action_Row{"SaveAs_SEQ", Confirm_Save_Sequence, Nothing},
+};
+
+void Run_Action(void (*Action_Row::*action)()) {
+  const auto row = std::ranges::find(Action_Rows, std::string_view(Dlg_Kind), &Action_Row::kind);
+  if (row == Action_Rows.end()) return;
+  try {
+    ((*row).*action)();
+  } catch (const Runtime_Error& error) {
+    Message_Box(std::string(Error_Text(error.number)) + " : " + Typed(), Box_Exclamation);
+  }
+}
+
+void Begin() {
+  FD_Done = Flag_Off;
+  FD_Dir = File_Dlg.FD_List_Dirs.path();
+}
+
+void Add_Extension() {
+  const std::string text = Typed();
+  const int before = std::max(Character_Count(text) - Longest_Extension, 0);
+  const std::string_view end = std::string_view(text).substr(First_Characters(text, before).size());
+  const bool complete = end.find('.') != std::string_view::npos || end.ends_with('\\');
+  if (!complete) File_Dlg.FD_FileName.Set_Text(text + FD_Ext);
+}
+
+// Closes the window after a success. A load that asked for a Save As may have closed it already.
+bool Stays() {
+  if (FD_Done == Flag_On) Unload(File_Dlg);
+  return File_Dlg.Loaded();
+}
+
+}  // namespace
+
+void FD_Confirm() {
+  Begin();
+  Add_Extension();
+  Run_Action(&Action_Row::confirm);
+  if (Stays()) File_Dlg.FD_FileName.Select_All();
+}
+
+void FD_Double_Click() {
+  Begin();
+  Run_Action(&Action_Row::double_click);
+  if (Stays()) Add_Extension();
+}

@@ -1,0 +1,186 @@
+#include "filebrowser/folders.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "filebrowser/state.h"
+#include "panel/input_box.h"
+#include "panel/push_buttons.h"
+#include "platform/desktop.h"
+#include "platform/drives.h"
+#include "platform/files.h"
+#include "platform/profile_file.h"
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+#include "windows/file_dlg_window.h"
+
+namespace {
+
+constexpr std::size_t Drive_Length = 2;  // "C:"
+constexpr std::string_view Directory_Not_Ready = "Drive not ready or not available.";
+constexpr std::string_view Drive_Not_Ready = "Drive not ready or unavailable.";
+
+// Goes somewhere. A drive that is not ready can be tried again; any other failure leaves the lists where they
+// are. False if the user gave the drive up.
+bool Go(const std::function<void()>& assignment, std::string_view not_ready) {
+  for (;;) {
+    try {
+      assignment();
+      return true;
+    } catch (const Runtime_Error& error) {
+      if (error.number != Error_Device_Unavailable) return true;
+    }
+    if (Message_Box(not_ready, Box_Retry_Cancel + Box_Stop) != Answer::Retry) return false;
+  }
+}
+
+void Go_To(const std::string& path) {
+  Go([&path] { File_Dlg.FD_List_Dirs.Set_Path(path); }, Directory_Not_Ready);
+}
+
+void Directory_Changed() {
+  File_List& files = File_Dlg.FD_List_Files;
+  const Dir_List& directories = File_Dlg.FD_List_Dirs;
+  if (files.path() == directories.path()) return;
+  Go([&] { files.Set_Path(directories.path()); }, Directory_Not_Ready);
+}
+
+// The directory list may be on that drive already: then it stays where it is.
+void Drive_Changed() {
+  const std::string drive = File_Dlg.FD_List_Drives.drive();
+  Dir_List& directories = File_Dlg.FD_List_Dirs;
+  if (directories.path().substr(0, Drive_Length) == drive) {
+    FD_Drive = drive;
+    return;
+  }
+  const auto take_drive = [&] {
+    directories.Set_Path(Path_Slash(drive));
+    FD_Drive = drive;
+  };
+  if (!Go(take_drive, Drive_Not_Ready)) File_Dlg.FD_List_Drives.Set_Drive(FD_Drive);
+}
+
+std::string Entry() {
+  const Dir_List& directories = File_Dlg.FD_List_Dirs;
+  return directories.index() < 0 ? directories.path() : directories.Entry_Path(directories.index());
+}
+
+void Open_Entry() { Go_To(Entry()); }
+
+void Directory_Key(Key_Event& key) {
+  if (key.shift != 0 || (key.code != Key::Space && key.code != Key::Enter)) return;
+  key.code = 0;
+  Open_Entry();
+}
+
+void Select_Directory(const std::string& path) {
+  FD_Selected = path;
+  FD_Selected_Kind = Selected_Kind::Dir;
+}
+
+// --- the buttons; each beeps where nothing is selected
+
+void Up() {
+  const std::string parent = FD_Parent_Dir(Entry());
+  Go_To(parent);
+  Select_Directory(parent);
+  File_Dlg.FD_List_Dirs.Refresh();
+}
+
+// 0, or the number of what went wrong.
+int Error_Of(const std::function<void()>& deed) {
+  try {
+    deed();
+    return 0;
+  } catch (const Runtime_Error& error) {
+    return error.number;
+  }
+}
+
+void Delete_File(bool confirmed) {
+  const std::string path = Path_Slash(File_Dlg.FD_List_Dirs.path()) + Trim(File_Dlg.FD_FileName.text());
+  if (confirmed && Error_Of([&] { File_Delete(path); }) != 0) {
+    Message_Box(Upper(FD_Selected) + " could not be deleted.", Box_Exclamation);
+  } else {
+    File_Dlg.FD_List_Files.Refresh();
+  }
+}
+
+void Delete_Directory(bool confirmed) {
+  if (confirmed && Error_Of([] { Directory_Remove(FD_Selected); }) != 0) {
+    Message_Box(Upper(FD_Selected) + " could not be removed. The directory is not empty.", Box_Exclamation);
+  } else {
+    File_Dlg.FD_List_Dirs.Refresh();
+    FD_Selected = File_Dlg.FD_List_Dirs.path();
+  }
+}
+
+void Delete_Selected() {
+  const bool confirmed =
+      Message_Box("Delete " + Upper(FD_Selected) + " ?", Box_Yes_No + Box_Question) == Answer::Yes;
+  if (FD_Selected_Kind == Selected_Kind::File) {
+    Delete_File(confirmed);
+  } else {
+    Delete_Directory(confirmed);
+  }
+}
+
+bool Can_Make(const std::string& name) {
+  return Error_Of([&] { Directory_Make(Lower(Path_Slash(FD_Selected) + name)); }) == 0;
+}
+
+void New_Folder() {
+  std::string name = Lower(
+      Input_Box("Please enter a name for the new folder in:\r" + FD_Selected, "Create new folder", "folder"));
+  while (!name.empty() && !Can_Make(name)) {
+    name = Lower(
+        Input_Box("\n\nA folder or file of the given name already exists!!\n\nPlease enter another name:",
+                  "Create new directory", name));
+  }
+  File_Dlg.FD_List_Dirs.Refresh();
+}
+
+// The work is done with the press. What it shows in between may take the release away, so the button rises
+// here as well.
+void Wire_Button(Picture_Box& button, void (*work)()) {
+  button.on_mouse_down = [&button, work](const Mouse_Event&) {
+    Push_Down(button);
+    if (FD_Selected.empty()) return Beep();
+    work();
+    Push_Up(button);
+  };
+  button.on_mouse_up = [&button](const Mouse_Event&) { Push_Up(button); };
+}
+
+}  // namespace
+
+void FD_Folders_Wire() {
+  Dir_List& directories = File_Dlg.FD_List_Dirs;
+  directories.on_change = Directory_Changed;
+  directories.on_double_click = Open_Entry;
+  directories.on_key_down = Directory_Key;
+  directories.on_key_press = {};
+  directories.on_mouse_down = [](const Mouse_Event&) { Select_Directory(Entry()); };
+  File_Dlg.FD_List_Drives.on_change = Drive_Changed;
+  Wire_Button(File_Dlg.FD_Button_Updir, Up);
+  Wire_Button(File_Dlg.FD_Button_Delete, Delete_Selected);
+  Wire_Button(File_Dlg.FD_Button_Newdir, New_Folder);
+}
+
+void FD_Show_Directory(const std::string& path) {
+  std::string start = path.empty() ? Current_Directory() : path;
+  if (Error_Of([&] { File_Dlg.FD_List_Files.Set_Path(start); }) != 0) {
+    start = Current_Directory();
+    File_Dlg.FD_List_Files.Set_Path(start);
+  }
+  File_Dlg.FD_List_Dirs.Set_Path(start);
+  File_Dlg.FD_List_Drives.Set_Drive(start);
+}
+
+std::string FD_Parent_Dir(std::string_view path) {
+  std::string shorter = Path_Slash(path);
+  shorter.pop_back();
+  const std::size_t backslash = shorter.rfind('\\');
+  const std::size_t kept = backslash == std::string::npos ? Drive_Length : backslash;
+  return Path_Slash(shorter.substr(0, std::max(kept, Drive_Length)));
+}
