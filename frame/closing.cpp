@@ -1,0 +1,69 @@
+#include "frame/closing.h"
+
+#include <optional>
+
+#include "core/records.h"
+#include "core/settings.h"
+#include "frame/menus.h"
+#include "frame/start_up.h"
+#include "midi/output.h"
+#include "panel/segments.h"
+#include "platform/desktop.h"
+#include "sequencer/model.h"
+#include "sequencer/seq_commands.h"
+#include "windows/editor_window.h"
+#include "windows/frame_window.h"
+#include "windows/patch_window.h"
+#include "windows/sequencer_window.h"
+#include "windows/state.h"
+
+namespace {
+
+void Silence() {
+  if (Seq_Running == Flag_On) MELVOR.Seq_Tmr.enabled = false;
+  Seq_Running = Flag_Off;
+  MIDI_Reset();
+}
+
+// Asks about both unsaved things. The prompt for the sequence comes even after Cancel for the tone; what
+// counts at the end is whether anything is still unsaved, unless the last answer was Cancel.
+void Frame_Query(bool& cancel) {
+  Silence();
+  if (Seq_Open == Flag_On) Unload(Sequencer);
+  if (Patch_Open == Flag_On) Unload(Patch);
+  std::optional<Answer> last;
+  if (Tone_Saved == Flag_False) {
+    last = Message_Box("Save actual TONE first?", Box_Yes_No_Cancel + Box_Question);
+    if (last == Answer::Yes) Menu_File_SYX_Save();
+    if (last == Answer::No) Tone_Saved = Flag_True;
+  }
+  if (Seq_Saved == Flag_Off) {
+    last = Message_Box("Save actual SEQUENCE first?", Box_Yes_No_Cancel + Box_Question);
+    if (last == Answer::Yes) Menu_File_Seq_SaveAs();
+    if (last == Answer::No) Seq_Saved = Flag_On;
+  }
+  cancel = last == Answer::Cancel || Tone_Saved == Flag_False || Seq_Saved == Flag_Off;
+}
+
+void Frame_Unload() {
+  Pics_Release_Font();
+  MELVOR.Timer_Display.enabled = false;
+  Editor.Timer1.enabled = false;
+  MELVOR.Seq_Tmr.enabled = false;
+  Settings_Save();
+  MIDI_Out_Close_Wholly();
+  Do_Events();
+}
+
+}  // namespace
+
+void Closing_Wire() {
+  MELVOR.on_query_unload = Frame_Query;
+  MELVOR.on_unload = Frame_Unload;
+}
+
+void End_Without_Questions() {
+  Tone_Saved = Flag_True;
+  Seq_Saved = Flag_On;
+  Unload(MELVOR);
+}

@@ -1,0 +1,11 @@
+// The run of the program: load of the frame, run, closing.
+// Called by app/ once; from then on by the frame's own events.
+#pragma once
+
+// Wires every window and loads the frame. False if the program cannot run on this screen: then the frame is
+// gone again, after a box that says why.
+bool Start_Up();
+
+// Ends the program in order without questions, for a signal of the system: clock off, All Notes Off, settings
+// written.
+void End_Without_Questions();
