@@ -1,0 +1,143 @@
+"""The machine that one scenario runs on: display, window manager, session bus and JACK server, all private."""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+Patience_s = 30
+Look_again_s = 0.01
+
+
+def wait_until(condition, what, patience_s=Patience_s):
+    """Returns the condition's value as soon as that is true; AssertionError with what, a text or what gives one, if
+    it never comes."""
+    end = time.monotonic() + patience_s
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > end:
+            raise AssertionError(f"never came: {what() if callable(what) else what}")
+        time.sleep(Look_again_s)
+
+
+class Machine:
+    """Everything lives in one new directory and ends with it. screen: width and height in pixels. jack: whether a
+    JACK server runs."""
+
+    def __init__(self, screen=(1280, 1024), jack=True):
+        self.directory = pathlib.Path(tempfile.mkdtemp(prefix="melvor-e2e-"))
+        self.screen = screen
+        self.server = f"melvor-{self.directory.name}"
+        self.display_options = []
+        self._wants_jack = jack
+        self._running = []
+        self.environment = {
+            "PATH": os.environ["PATH"],
+            "LANG": "C.UTF-8",
+            "HOME": str(self._folder("home")),
+            "XDG_CONFIG_HOME": str(self._folder("settings")),
+            "XDG_RUNTIME_DIR": str(self._folder("runtime", 0o700)),
+            "JACK_DEFAULT_SERVER": self.server,
+            "JACK_NO_START_SERVER": "1",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+        }
+
+    def _folder(self, name, mode=0o755):
+        folder = self.directory / name
+        folder.mkdir(mode=mode)
+        return folder
+
+    @property
+    def home(self):
+        return self.directory / "home"
+
+    def __enter__(self):
+        signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # whoever stops a scenario stops its machine too
+        try:
+            self._start_display()
+            self._start_bus()
+            if self._wants_jack:
+                self.start_jack()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        for process in reversed(self._running):
+            end(process)
+        shutil.rmtree(self.directory, ignore_errors=True)
+
+    def start(self, name, command, **options):
+        """Starts a program of this machine; its output goes to NAME.log. It ends with the machine at the latest."""
+        options.setdefault("stdin", subprocess.DEVNULL)
+        with open(self.directory / f"{name}.log", "ab") as log:
+            options.setdefault("stdout", log)
+            process = subprocess.Popen(command, env=self.environment, cwd=self.home, stderr=log, **options)
+        self._running.append(process)
+        return process
+
+    def log(self, name):
+        return (self.directory / f"{name}.log").read_text(errors="replace")
+
+    def run(self, *command):
+        """Runs a command of this machine to its end and returns what it printed; None if it failed."""
+        done = subprocess.run(command, env=self.environment, capture_output=True, text=True, check=False)
+        return done.stdout if done.returncode == 0 else None
+
+    def _start_with_answer(self, name, command):
+        """Starts what prints one line on the descriptor that stands for {} in the command; returns that line."""
+        reading, writing = os.pipe()
+        process = self.start(name, [part.format(writing) for part in command], pass_fds=[writing])
+        os.close(writing)
+        with os.fdopen(reading) as answer:
+            line = answer.readline().strip()
+        if not line:
+            raise AssertionError(f"{name} did not start: {self.log(name)}")
+        return process, line
+
+    def _start_display(self):
+        width, height = self.screen
+        _, number = self._start_with_answer(
+            "xvfb", ["Xvfb", "-displayfd", "{}", "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
+                     *self.display_options])
+        self.environment["DISPLAY"] = f":{number}"
+        self.start("openbox", ["openbox", "--sm-disable"])
+        managed = ("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+        wait_until(lambda: "window id" in (self.run(*managed) or ""),
+                   lambda: f"the window manager: {self.log('openbox')}")
+
+    def _start_bus(self):
+        _, address = self._start_with_answer(
+            "bus", ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={}"])
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+
+    def start_jack(self):
+        """The dummy driver: a server without hardware. It waits for its clients, so that a busy machine loses nothing
+        on the way to the one that listens."""
+        self.jack = self.start("jackd", ["jackd", "-n", self.server, "-S", "-r", "-t", "5000", "-p", "128", "-d",
+                                         "dummy", "-r", "48000", "-p", "256"])
+        wait_until(lambda: self.run("jack_lsp") is not None, "the JACK server")
+
+    def pause_jack(self):
+        self.jack.send_signal(signal.SIGSTOP)
+
+    def resume_jack(self):
+        self.jack.send_signal(signal.SIGCONT)
+
+
+def end(process, patience_s=10):
+    """Ends a program in order, or at once if it does not listen; returns its exit code."""
+    if process.poll() is None:
+        process.terminate()
+        try:
+            process.wait(patience_s)
+        except subprocess.TimeoutExpired:
+            process.kill()
+    return process.wait()

@@ -1,0 +1,115 @@
+"""The program itself, from its start to its end."""
+
+import os
+import pathlib
+import signal
+import sys
+
+from harness.machine import Machine, end, wait_until
+from harness.screen import Screen
+from harness.wire import Wire
+
+Panel = "VCF cutoff frequency"  # an element that is there as soon as the panel is
+
+# A frame with room for every window beside the panel.
+Wide_frame = {
+    "Main Window": {"Width": "1240", "Height": "960"},
+    "Windows": {"Save Positions": "1", "Sequencer Left": "540", "Sequencer Top": "0", "Patch Left": "540",
+                "Patch Top": "250", "File Dialog Left": "540", "File Dialog Top": "440"},
+}
+
+
+class Session:
+    """A machine with the program on it and a JACK client on its wire.
+
+    settings: sections of the settings file, {section: {key: text}}, beside the choice of the JACK client and in
+    place of the wide frame's.
+    configured: whether the JACK client is chosen; without, the start asks and waits for no panel.
+    scale: the toolkit's pixel ratio.
+    """
+
+    def __init__(self, name, settings=None, scale=1, configured=True, screen=(1280, 1024)):
+        self.name = name
+        self.machine = Machine(screen)
+        self._settings = settings or {}
+        self._scale = scale
+        self._configured = configured
+
+    def __enter__(self):
+        self.machine.__enter__()
+        try:
+            self.wire = Wire(self.machine, os.environ["JACK_CAPTURE"])
+            self.write_settings()
+            self.start(wait_for_panel=self._configured)
+        except BaseException:
+            self._tell()
+            self.machine.__exit__()
+            raise
+        return self
+
+    def __exit__(self, kind, *_):
+        if kind is not None:
+            self._tell()
+        self.machine.__exit__()
+
+    def _tell(self):
+        """What is worth knowing of a failure."""
+        if hasattr(self, "screen"):
+            self.screenshot("failed")
+        if (self.machine.directory / "melvor.log").exists():
+            print(self.machine.log("melvor"), file=sys.stderr)
+
+    @property
+    def settings_file(self):
+        return pathlib.Path(self.machine.environment["XDG_CONFIG_HOME"]) / "melvor" / "MELVOR.INI"
+
+    def write_settings(self):
+        sections = {section: dict(keys) for section, keys in {**Wide_frame, **self._settings}.items()}
+        if self._configured:
+            sections.setdefault("MIDI", {}).update({"Output": "synth:in", "Input": "synth:out"})
+        self.settings_file.parent.mkdir(exist_ok=True)
+        lines = []
+        for section, keys in sections.items():
+            lines.append(f"[{section}]")
+            lines += [f"{key}={value}" for key, value in keys.items()]
+        self.settings_file.write_text("\r\n".join(lines) + "\r\n")
+
+    def settings(self):
+        """The settings file as {section: {key: text}}."""
+        sections = {}
+        for line in self.settings_file.read_text().splitlines():
+            if line.startswith("["):
+                keys = sections.setdefault(line.strip("[]"), {})
+            elif "=" in line:
+                key, value = line.split("=", 1)
+                keys[key] = value
+        return sections
+
+    def start(self, wait_for_panel=True):
+        if self._scale != 1:
+            self.machine.environment["QT_SCALE_FACTOR"] = str(self._scale)
+        self.process = self.machine.start("melvor", [os.environ["MELVOR"]])
+        self.screen = Screen(self.machine, self.process.pid, self._scale)
+        if wait_for_panel:
+            self.screen.element(Panel)
+            active = ("xdotool", "getactivewindow", "getwindowpid")
+            wait_until(lambda: (self.machine.run(*active) or "").strip() == str(self.process.pid),
+                       "the program's window in front")
+
+    def screenshot(self, station):
+        folder = pathlib.Path(os.environ["SCREENSHOTS"])
+        folder.mkdir(parents=True, exist_ok=True)
+        self.screen.screenshot(folder / f"{self.name}-{station}.png")
+
+    def wait_for_end(self):
+        """The exit code, once the program has ended by itself."""
+        wait_until(lambda: self.process.poll() is not None, "the end of the program")
+        return self.process.returncode
+
+    def interrupt(self):
+        """Asks the program to end as a closing desktop does; returns its exit code."""
+        self.process.send_signal(signal.SIGTERM)
+        return self.wait_for_end()
+
+    def stop(self):
+        return end(self.process)

@@ -1,0 +1,203 @@
+"""The program's windows as a screen reader sees them, and a hand that works them."""
+
+import os
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+from harness.machine import wait_until  # noqa: E402
+
+_Menu_roles = {Atspi.Role.MENU_BAR, Atspi.Role.MENU, Atspi.Role.POPUP_MENU}
+_Item_roles = {Atspi.Role.MENU, Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM}
+_Button_roles = {Atspi.Role.PUSH_BUTTON}
+
+
+class Screen:
+    """Elements are found by their spoken names; "Sequencer > Start sequencer" is one of the child window whose caption
+    begins so. Places are the program's own pixels, of which the screen has scale times scale each."""
+
+    def __init__(self, machine, process_id, scale=1):
+        os.environ.update(machine.environment)  # the accessibility bus is found by the environment
+        self._machine = machine
+        self._process_id = process_id
+        self._scale = scale
+        self.application = wait_until(self._find_application, "the program on the accessibility bus")
+
+    def _find_application(self):
+        desktop = Atspi.get_desktop(0)
+        desktop.set_cache_mask(Atspi.Cache.NONE)
+        for index in range(desktop.get_child_count()):
+            try:
+                child = desktop.get_child_at_index(index)
+                if child is not None and child.get_process_id() == self._process_id:
+                    child.set_cache_mask(Atspi.Cache.NONE)
+                    return child
+            except GLib.Error:
+                continue  # a program that has gone
+        return None
+
+    # --- looking
+
+    def _walk(self, node, into_menus=False):
+        for index in range(node.get_child_count()):
+            child = node.get_child_at_index(index)
+            if child is None:
+                continue
+            yield child
+            if into_menus or child.get_role() not in _Menu_roles:
+                yield from self._walk(child, into_menus)
+
+    def _find(self, test, into_menus=False, below=None):
+        """The first shown element that passes; None if there is none, or if the tree changes meanwhile."""
+        try:
+            for node in self._walk(below or self.application, into_menus):
+                if test(node) and node.get_state_set().contains(Atspi.StateType.SHOWING):
+                    return node
+        except GLib.Error:
+            pass
+        return None
+
+    def _look(self, name):
+        window, _, element = name.rpartition(" > ")
+        below = self._find(lambda node: node.get_role() == Atspi.Role.FRAME and node.get_name().startswith(window)
+                           and node.get_name() != "MELVOR") if window else None
+        if window and below is None:
+            return None
+        return self._find(lambda node: node.get_name() == element, below=below)
+
+    def element(self, name):
+        return wait_until(lambda: self._look(name), f'the element "{name}"')
+
+    def has(self, name):
+        return self._look(name) is not None
+
+    def wait_for(self, name):
+        self.element(name)
+
+    def wait_for_end_of(self, name):
+        wait_until(lambda: not self.has(name), f'the end of "{name}"')
+
+    def place(self, name):
+        """Left, top, width and height."""
+        return _extents(self.element(name))
+
+    def value(self, name):
+        """What the element says of its value."""
+        return self.element(name).get_description()
+
+    def text(self, name):
+        field = self.element(name)
+        return Atspi.Text.get_text(field, 0, Atspi.Text.get_character_count(field))
+
+    def items(self, name):
+        """The texts of a list's rows; a directory stands indented under the one that it is in."""
+        node = self.element(name)
+        return [node.get_child_at_index(index).get_name().strip() for index in range(node.get_child_count())]
+
+    def is_enabled(self, name):
+        """Of an element, or a menu of the bar."""
+        node = wait_until(lambda: self._find(lambda node: node.get_name() == name, into_menus=True), f'"{name}"')
+        return node.get_state_set().contains(Atspi.StateType.ENABLED)
+
+    def number(self, name):
+        """The value of a scroll bar."""
+        return round(Atspi.Value.get_current_value(self.element(name)))
+
+    # --- the hand
+
+    def hand(self, *steps):
+        """Steps of xdotool, as one gesture."""
+        words = [str(step) for step in steps]
+        for index, word in enumerate(words):
+            if word == "mousemove":
+                words[index + 1:index + 3] = [str(int(place) * self._scale) for place in words[index + 1:index + 3]]
+        assert self._machine.run("xdotool", *words) is not None, f"xdotool {words}"
+
+    def middle(self, name):
+        left, top, width, height = self.place(name)
+        return left + width // 2, top + height // 2
+
+    def click(self, name, button=1, at=None):
+        """at: pixels from the element's top left corner; its middle if not given."""
+        left, top, _, _ = self.place(name)
+        x, y = (left + at[0], top + at[1]) if at else self.middle(name)
+        self.hand("mousemove", x, y, "click", button)
+
+    def click_row(self, name, text, times=1):
+        """Clicks, or double clicks, the row with that text of a list; it must not be scrolled out of sight."""
+        row = wait_until(lambda: self._find(lambda node: node.get_name().strip() == text, below=self.element(name)),
+                         f'the row "{text}"')
+        left, top, width, height = _extents(row)
+        self.hand("mousemove", left + width // 2, top + height // 2, "click", "--repeat", times, "--delay", 60, 1)
+
+    def drag(self, name, grip, path):
+        """Presses at grip (pixels from the top left corner) and moves through path, a list of such places, all
+        counted from where the element stood at the press. Returns that place."""
+        left, top, _, _ = self.place(name)
+        steps = ["mousemove", left + grip[0], top + grip[1], "mousedown", 1]
+        for x, y in path:
+            steps += ["mousemove", left + x, top + y, "sleep", 0.01]
+        self.hand(*steps, "mouseup", 1)
+        return left, top
+
+    def key(self, *names):
+        self.hand("key", "--delay", 20, *names)
+
+    def type(self, text):
+        self.hand("type", "--delay", 20, text)
+
+    def choose(self, shown, text):
+        """Opens the drop-down list that shows the one text and types the other."""
+        self.click(shown)
+        self.type(text)
+        self.key("Return")
+        self.wait_for(text)
+
+    def menu(self, *path):
+        """Chooses an item by the captions on the way to it."""
+        item = None
+        for caption in path:
+            item = self._menu_item(caption, item)
+            left, top, width, height = _extents(item)
+            self.hand("mousemove", left + width // 2, top + height // 2, "click", 1)
+
+    def _menu_item(self, caption, above):
+        def test(node):  # a shortcut stands behind a tab
+            return node.get_role() in _Item_roles and node.get_name().split("\t")[0] == caption
+        return wait_until(lambda: self._find(test, into_menus=True, below=above), f'the menu item "{caption}"')
+
+    # --- message boxes
+
+    def _box(self):
+        return self._find(lambda node: node.get_role() == Atspi.Role.ALERT)
+
+    def _box_text(self):
+        box = self._box()
+        if box is None:
+            return None
+        labels = [node.get_name() for node in self._walk(box) if node.get_role() == Atspi.Role.LABEL]
+        return next((text for text in labels if text), None)
+
+    def box(self):
+        """The text of the message box that is open; waits for one."""
+        return wait_until(self._box_text, "a message box")
+
+    def answer(self, button):
+        """Clicks a button of the open message box; returns when the box has gone, or another stands there."""
+        def is_button(node):
+            return node.get_role() in _Button_roles and node.get_name() == button
+        text = self.box()
+        left, top, width, height = _extents(wait_until(lambda: self._find(is_button, below=self._box()),
+                                                       f'the button "{button}"'))
+        self.hand("mousemove", left + width // 2, top + height // 2, "click", 1)
+        wait_until(lambda: self._box_text() != text, "the end of the box")
+
+    def screenshot(self, file):
+        assert self._machine.run("import", "-window", "root", str(file)) is not None, f"screenshot {file}"
+
+
+def _extents(node):
+    box = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+    return box.x, box.y, box.width, box.height

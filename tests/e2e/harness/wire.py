@@ -1,0 +1,102 @@
+"""What an independent JACK client receives, and what it sends."""
+
+import subprocess
+
+from harness.machine import wait_until
+
+All_notes_off = bytes.fromhex("B0 7B 00")
+
+
+class Wire:
+    """A client "synth" with the ports synth:in and synth:out. Messages are read in order, each once."""
+
+    def __init__(self, machine, capture_program):
+        self.file = machine.directory / "wire.txt"
+        self._process = machine.start(
+            "wire", [capture_program, "--file", str(self.file), "--name", "synth", "--commands"],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        if self._process.stdout.readline() != b"ready\n":
+            raise AssertionError(f"the JACK client did not start: {machine.log('wire')}")
+        self._read = 0
+
+    def all(self):
+        """Every message since the start: microseconds and bytes. A line still being written does not count."""
+        lines = self.file.read_text().split("\n")[:-1]
+        stamped = (line.split(" ", 1) for line in lines)
+        return [(int(time), bytes.fromhex(data)) for time, data in stamped]
+
+    def _unread(self):
+        return [message for _, message in self.all()[self._read:]]
+
+    def skip(self):
+        self._read = len(self.all())
+
+    def expect(self, *messages):
+        """The next messages, byte for byte."""
+        try:
+            wait_until(lambda: len(self._unread()) >= len(messages), "messages")
+        except AssertionError:
+            pass  # the comparison tells what is missing
+        got = self._unread()[: len(messages)]
+        assert got == list(messages), f"on the wire:\n{as_text(got)}\nwanted:\n{as_text(messages)}"
+        self._read += len(messages)
+
+    def take_to(self, last):
+        """All messages before the next one that is equal to last; that one is passed over too."""
+        try:
+            wait_until(lambda: last in self._unread(), "")
+        except AssertionError:
+            raise AssertionError(f"wanted {last.hex(' ')} after:\n{as_text(self._unread())}") from None
+        got = self._unread()
+        got = got[: got.index(last)]
+        self._read += len(got) + 1
+        return got
+
+    def wait_for(self, count, patience_s=30):
+        """Waits until so many messages are unread."""
+        wait_until(lambda: len(self._unread()) >= count, f"{count} messages", patience_s)
+
+    def send(self, message):
+        self._process.stdin.write(message.hex(" ").encode() + b"\n")
+        self._process.stdin.flush()
+
+
+def as_text(messages):
+    return "\n".join(message.hex(" ") for message in messages) or "(nothing)"
+
+
+def tone(index, value):
+    """One tone parameter, channel 1."""
+    return bytes([0xF0, 0x41, 0x36, 0x00, 0x21, 0x20, 0x01, index, value, 0xF7])
+
+
+def patch(index, value):
+    """One patch parameter, channel 1."""
+    return bytes([0xF0, 0x41, 0x36, 0x00, 0x21, 0x30, 0x01, index, value, 0xF7])
+
+
+def note(number, velocity):
+    return bytes([0x90, number, velocity])
+
+
+def dump(record, patch_record=(0, 0, 0, 0, 0, 0, 64)):
+    """A whole tone of 59 bytes with its patch, as it goes to the instrument."""
+    pairs = bytes(byte for pair in enumerate(patch_record) for byte in pair)
+    return (bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + bytes.fromhex("24 07 F0 41 36 00 21 30 01") +
+            pairs + b"\xF7")
+
+
+def tone_file(record, patch_record=(0, 0, 0, 0, 0, 0, 64)):
+    """The same as a file of 89 bytes."""
+    pairs = bytes(byte for pair in enumerate(patch_record) for byte in pair)
+    return (bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + bytes.fromhex("F7 F0 41 36 00 21 30 01") +
+            pairs + b"\xF7")
+
+
+def empty_record(name=""):
+    """The tone of a fresh start: a name, tunes at their centres, all else 0."""
+    record = bytearray(59)
+    record[:10] = name.ljust(10).encode()
+    record[13] = record[19] = 56
+    record[20] = 64
+    return record

@@ -1,0 +1,60 @@
+"""A tone sent by the instrument reaches the panel; what is no tone leaves it waiting."""
+
+from harness.machine import wait_until
+from harness.program import Session
+from harness.wire import All_notes_off, dump, empty_record, tone
+
+Cutoff_index = 34
+
+
+def instrument_tone(name, cutoff):
+    """The 67 bytes that the instrument transmits."""
+    record = empty_record(name)
+    record[Cutoff_index] = cutoff
+    return bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + b"\xF7", record
+
+
+def turn_on(screen):
+    """The setup window opens the menu's item."""
+    screen.menu("MIDI", "Setup...")
+    screen.wait_for("OK")
+    screen.key("Return")
+    assert screen.box().startswith("Please don't forget to enable the MIDI System Exclusive (SysEx)")
+    screen.answer("OK")
+
+
+def main():
+    with Session("receive") as session:
+        screen, wire = session.screen, session.wire
+        message, record = instrument_tone("SOLO LEAD", 100)
+        turn_on(screen)
+        screen.menu("Tone", "Receive ")
+        wait_until(lambda: not screen.is_enabled("File"), "the wait for a tone")
+        session.screenshot("waiting")
+        wire.send(bytes.fromhex("F0 7E 00 06 01 F7"))  # another's message does not end the wait
+        wire.send(message)
+        wait_until(lambda: screen.text("Tone name") == "SOLO LEAD", "the name of the tone")
+        wait_until(lambda: screen.is_enabled("File"), "the end of the wait")
+        assert screen.value("VCF cutoff frequency") == str(100 * 99 // 127)
+        session.screenshot("received")
+
+        screen.menu("Tone", "Send")
+        wire.expect(dump(record))
+        screen.click("VCF cutoff frequency")  # what is sent at once is on again
+        wire.expect(tone(Cutoff_index, 100))
+
+        screen.menu("Tone", "Receive ")
+        assert screen.box() == "Save actual TONE first?"
+        screen.answer("No")
+        wait_until(lambda: not screen.is_enabled("File"), "the wait for a tone")
+        screen.click("Stop sequencer")
+        wait_until(lambda: screen.is_enabled("File"), "the end of the wait")
+        wire.send(instrument_tone("TOO LATE", 1)[0])
+        screen.click("Play a chord", button=3)
+        wire.expect(All_notes_off)
+        assert screen.text("Tone name") == "SOLO LEAD"
+        assert session.interrupt() == 0
+
+
+if __name__ == "__main__":
+    main()
