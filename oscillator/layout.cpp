@@ -49,6 +49,7 @@ void Place_Value(Label& label, int left, int top, int width) {
   label.own_colors = true;
   label.fore_color = Value_Color;
   label.back_color = Black;
+  label.back_color = Black;
 }
 
 void Lay_Bars() {

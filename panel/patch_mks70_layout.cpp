@@ -110,7 +110,7 @@ void Lay_Name() {
 }
 
 void Lay_List(Combo_Box& list, int top, int tab, std::string_view spoken) {
-  list.Place(16, top, 76, 21);
+  list.Place(16, top, 64, 21);
   list.tab_index = tab;
   list.spoken_name = spoken;
 }

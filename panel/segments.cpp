@@ -78,7 +78,7 @@ constexpr std::array Character_Rows{
 constexpr std::array<std::string_view, 256> By_Code() {
   std::array<std::string_view, 256> chars{};
   for (const Character_Row& row : Character_Rows)
-    chars[static_cast<std::size_t>(row.character)] = row.segments;
+    chars[static_cast<unsigned char>(row.character)] = row.segments;
   return chars;
 }
 

@@ -13,6 +13,7 @@ constexpr int Oscillator_Width_px = 386;
 constexpr int Oscillator_Height_px = 165;
 
 constexpr int Osc_Steps = 18;
+constexpr int Osc_Lines = 2 * Osc_Steps;  // the steps, then their connectors
 constexpr int Osc_Waves = 10;
 
 struct Oscillator_Window final : Form {
@@ -23,8 +24,7 @@ struct Oscillator_Window final : Form {
   Line HLine{Picture1, "HLine"};
   Line ZLine1{Picture1, "ZLine1"};
   Line ZLine2{Picture1, "ZLine2"};
-  std::array<Line, 2 * Osc_Steps> Line1 =
-      Control_Row<Line, 2 * Osc_Steps>(Picture1, "Line1");  // the steps, then their connectors
+  std::array<Line, Osc_Lines> Line1 = Control_Row<Line, Osc_Lines>(Picture1, "Line1");
   Line TimeLine{Picture1, "TimeLine"};
 
   Scroll_Bar VScrollDelta{*this, "VScrollDelta"};  // offset

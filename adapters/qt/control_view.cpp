@@ -53,7 +53,9 @@ bool Control_View::Is_Surface(const QWidget& part) const {
 }
 
 QRect Control_View::Place() const {
-  return {control.left(), control.top(), control.width(), control.height()};
+  const Control_View* container = control.container == nullptr ? nullptr : shell.View_Of(*control.container);
+  const QPoint inset = container == nullptr ? QPoint() : container->Inset();
+  return {QPoint(control.left(), control.top()) + inset, QSize(control.width(), control.height())};
 }
 
 void Control_View::Report(const std::function<void()>& deed) {

@@ -31,6 +31,8 @@ struct Control_View : Component_View {
   virtual void Before_Press(const Mouse_Event& place);
   // Whether a press on this part of the widget is one on the control: not on the scroll bar of a list.
   virtual bool Is_Surface(const QWidget& part) const;
+  // Where the pixels of what lies on the control begin.
+  virtual QPoint Inset() const { return {}; }
 
   Shell& shell;
   Control& control;

@@ -48,7 +48,16 @@ void Picture_Box_View::Tell_Spoken_Value() {
   QAccessible::updateAccessibility(&changed);
 }
 
-void Picture_Box_View::Paint(QPainter& painter) { Paint_Picture(painter, shown_, QPoint(0, 0)); }
+// A box larger than its picture has a border around it.
+QPoint Picture_Box_View::Inset() const {
+  const auto& box = static_cast<const Picture_Box&>(control);
+  const QPixmap pixmap = shell.pictures.Get(box.picture(), widget.devicePixelRatioF());
+  if (pixmap.isNull()) return {};
+  const QSize border = QSize(control.width(), control.height()) - pixmap.deviceIndependentSize().toSize();
+  return {std::max(border.width() / 2, 0), std::max(border.height() / 2, 0)};
+}
+
+void Picture_Box_View::Paint(QPainter& painter) { Paint_Picture(painter, shown_, Inset()); }
 
 void Canvas_View::Show_Values() {
   const auto& canvas = static_cast<const Canvas&>(control);

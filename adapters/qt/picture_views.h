@@ -29,6 +29,8 @@ struct Light_View : Control_View {
 struct Picture_Box_View final : Light_View {
   using Light_View::Light_View;
 
+  QPoint Inset() const override;
+
  private:
   void Show_Values() override;
   void Paint(QPainter& painter) override;
