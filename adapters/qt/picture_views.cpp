@@ -48,13 +48,13 @@ void Picture_Box_View::Tell_Spoken_Value() {
   QAccessible::updateAccessibility(&changed);
 }
 
-// A box larger than its picture has a border around it.
+// A box that is a pixel larger than its picture on every side has a border.
 QPoint Picture_Box_View::Inset() const {
   const auto& box = static_cast<const Picture_Box&>(control);
   const QPixmap pixmap = shell.pictures.Get(box.picture(), widget.devicePixelRatioF());
   if (pixmap.isNull()) return {};
-  const QSize border = QSize(control.width(), control.height()) - pixmap.deviceIndependentSize().toSize();
-  return {std::max(border.width() / 2, 0), std::max(border.height() / 2, 0)};
+  const QSize around = QSize(control.width(), control.height()) - pixmap.deviceIndependentSize().toSize();
+  return around == QSize(2, 2) ? QPoint(1, 1) : QPoint();
 }
 
 void Picture_Box_View::Paint(QPainter& painter) { Paint_Picture(painter, shown_, Inset()); }
