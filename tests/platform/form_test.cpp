@@ -112,6 +112,8 @@ TEST_F(Forms, A_Timer_That_Runs_From_The_Start_Runs_From_Each_Load) {
 TEST_F(Forms, Closing_The_Frame_Asks_Everybody_Before_Anything_Closes) {
   Show(one);
   Show(two);
+  Window prompt{Form_Role::Independent, "prompt"};
+  Show(prompt);
   Story();
   one.refuses = true;
   EXPECT_FALSE(Unload(frame));
