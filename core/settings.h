@@ -10,7 +10,8 @@ extern std::uint8_t Soundcheck;           // what it plays for a tone: 0 a note,
 extern std::uint8_t Soundcheck_Note;      // [24, 72]
 extern std::uint8_t Soundcheck_Velocity;  // [0, 127]
 
-// Directories of the file dialog: program paths in lower case with a "\" behind them.
+// Directories of the file dialog, program paths: from the settings in lower case with a "\" behind them, from the dialog
+// as its list has them.
 extern std::string Dir_Tones;
 extern std::string Dir_Sequences;
 extern std::string Dir_Oscillators;

@@ -43,8 +43,8 @@ void Jack_Server::Start() {
     const int nowhere = open("/dev/null", O_WRONLY);
     dup2(nowhere, STDOUT_FILENO);
     dup2(nowhere, STDERR_FILENO);
-    execlp("jackd", "jackd", "-n", Server_Name, "-r", "-p", "64", "-d", "dummy", "-r", "48000", "-p", "256",
-           nullptr);
+    execlp("jackd", "jackd", "-n", Server_Name, "-r", "-S", "-t", "5000", "-p", "64", "-d", "dummy", "-r",
+           "48000", "-p", "256", nullptr);
     _exit(127);
   }
   // A program of its own asks: a client in this one would be in the way of those under test.
