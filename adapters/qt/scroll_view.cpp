@@ -9,8 +9,38 @@
 
 namespace {
 
+// A bar with its largest value on top. The toolkit turns its picture round, but not what a press on its
+// arrows and its groove does.
+struct Turned_Bar final : QScrollBar {
+  explicit Turned_Bar(QWidget& parent) : QScrollBar(Qt::Vertical, &parent) {
+    setInvertedAppearance(true);
+    setInvertedControls(false);
+    QObject::connect(this, &QScrollBar::actionTriggered, this, [this](int action) { Turn_Step(action); });
+  }
+
+ private:
+  void mousePressEvent(QMouseEvent* event) override {
+    held_ = true;
+    QScrollBar::mousePressEvent(event);
+  }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    held_ = false;
+    QScrollBar::mouseReleaseEvent(event);
+  }
+  void Turn_Step(int action) {
+    if (!held_) return;
+    const int moved = sliderPosition() - value();
+    if (action == SliderMove || moved == 0) return;
+    setSliderPosition(value() - moved);
+  }
+
+  bool held_ = false;
+};
+
 QWidget& Make_Bar(const Control& control, QWidget& parent) {
-  const bool vertical = static_cast<const Scroll_Bar&>(control).orientation == Orientation::Vertical;
+  const auto& bar = static_cast<const Scroll_Bar&>(control);
+  const bool vertical = bar.orientation == Orientation::Vertical;
+  if (vertical && bar.largest_on_top) return *new Turned_Bar(parent);
   return *new QScrollBar(vertical ? Qt::Vertical : Qt::Horizontal, &parent);
 }
 
@@ -21,15 +51,9 @@ Scroll_Bar_View::Scroll_Bar_View(Shell& the_shell, Control& the_control, QWidget
                    {.native_mouse = true, .native_keys = true, .greys = true}) {
   auto& bar = static_cast<QScrollBar&>(widget);
   bar.setAccessibleName(To_Qt(control.spoken_name));
-  QObject::connect(&bar, &QScrollBar::valueChanged, &bar, [this](int place) {
-    Report([&scroll_bar = Bar(), value = Turned(place)] { User_Scrolled(scroll_bar, value); });
+  QObject::connect(&bar, &QScrollBar::valueChanged, &bar, [this](int value) {
+    Report([&scroll_bar = Bar(), value] { User_Scrolled(scroll_bar, value); });
   });
-}
-
-// The toolkit's bars grow downwards; its own way to turn one leaves presses on arrows and groove as they were.
-int Scroll_Bar_View::Turned(int value) const {
-  const bool turned = Bar().orientation == Orientation::Vertical && Bar().largest_on_top;
-  return turned ? Bar().minimum() + Bar().maximum() - value : value;
 }
 
 void Scroll_Bar_View::Show_Values() {
@@ -38,5 +62,5 @@ void Scroll_Bar_View::Show_Values() {
   bar.setRange(Bar().minimum(), Bar().maximum());
   bar.setSingleStep(Bar().small_change);
   bar.setPageStep(Bar().large_change);
-  bar.setValue(Turned(Bar().value()));
+  bar.setValue(Bar().value());
 }

@@ -38,7 +38,7 @@ def main():
         screen.choose("DCO1 LFO Mod Depth", "VCF Cutoff")
         for _ in range(9):  # presses below the thumb, 50 ms each
             screen.click("Step time in milliseconds", at=(7, 82))
-        wait_until(lambda: screen.number("Step time in milliseconds") == 50, "50 ms a step")
+        screen.wait_for("Oscillator > 50")  # the label below the bar
 
         check(play(session), Double_ramp)
         screen.click("Square")

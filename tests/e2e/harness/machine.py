@@ -11,6 +11,8 @@ import time
 
 Patience_s = 30
 Look_again_s = 0.01
+First_display = 1000
+Displays = 30000
 
 
 def wait_until(condition, what, patience_s=Patience_s):
@@ -91,32 +93,24 @@ class Machine:
         done = subprocess.run(command, env=self.environment, capture_output=True, text=True, check=False)
         return done.stdout if done.returncode == 0 else None
 
-    def _start_with_answer(self, name, command):
-        """Starts what prints one line on the descriptor that stands for {} in the command; returns that line."""
-        reading, writing = os.pipe()
-        process = self.start(name, [part.format(writing) for part in command], pass_fds=[writing])
-        os.close(writing)
-        with os.fdopen(reading) as answer:
-            line = answer.readline().strip()
-        if not line:
-            raise AssertionError(f"{name} did not start: {self.log(name)}")
-        return process, line
-
     def _start_display(self):
+        """A number of its own, and no search for a free one: servers that search at the same time take each other's
+        sockets away."""
         width, height = self.screen
-        _, number = self._start_with_answer(
-            "xvfb", ["Xvfb", "-displayfd", "{}", "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
-                     *self.display_options])
+        number = First_display + os.getpid() % Displays
+        server = self.start("xvfb", ["Xvfb", f":{number}", "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
+                                     *self.display_options])
         self.environment["DISPLAY"] = f":{number}"
+        wait_until(lambda: self.run("xprop", "-root") is not None or server.poll() is not None, "the display")
         self.start("openbox", ["openbox", "--sm-disable"])
         managed = ("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
         wait_until(lambda: "window id" in (self.run(*managed) or ""),
-                   lambda: f"the window manager: {self.log('openbox')}")
+                   lambda: f"the window manager: {self.log('xvfb')}{self.log('openbox')}")
 
     def _start_bus(self):
-        _, address = self._start_with_answer(
-            "bus", ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={}"])
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        bus = self.start("bus", ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address"],
+                         stdout=subprocess.PIPE)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
 
     def start_jack(self):
         """The dummy driver: a server without hardware. It waits for its clients, so that a busy machine loses nothing
