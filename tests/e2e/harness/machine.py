@@ -94,12 +94,11 @@ class Machine:
         return done.stdout if done.returncode == 0 else None
 
     def _start_display(self):
-        """A number of its own, and no search for a free one: servers that search at the same time take each other's
-        sockets away."""
         width, height = self.screen
         number = First_display + os.getpid() % Displays
-        server = self.start("xvfb", ["Xvfb", f":{number}", "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
-                                     *self.display_options])
+        # Without -noreset the server starts anew when its last client leaves, and refuses whoever comes just then.
+        server = self.start("xvfb", ["Xvfb", f":{number}", "-screen", "0", f"{width}x{height}x24", "-noreset",
+                                     "-nolisten", "tcp", *self.display_options])
         self.environment["DISPLAY"] = f":{number}"
         wait_until(lambda: self.run("xprop", "-root") is not None or server.poll() is not None, "the display")
         self.start("openbox", ["openbox", "--sm-disable"])
