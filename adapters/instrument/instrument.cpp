@@ -47,20 +47,13 @@ struct Built_In::In_Cable final : Midi::Sink {
 };
 
 struct Built_In::Out_Cable final : Midi::Source {
-  Out_Cable(Built_In& built_in, Midi::Byte_Receiver byte_receiver)
-      : receiver(std::move(byte_receiver)), built_in_(built_in) {
-    const std::lock_guard lock(built_in_.mutex_);
-    built_in_.listeners_.push_back(this);
-  }
-  ~Out_Cable() override {
-    const std::lock_guard lock(built_in_.mutex_);
-    std::erase(built_in_.listeners_, this);
-  }
-
-  Midi::Byte_Receiver receiver;
+  Out_Cable(const Built_In& built_in, Midi::Byte_Receiver receiver)
+      : built_in_(built_in), receiver_(std::move(receiver)) {}
+  void Started() override { receiver_(built_in_.Tone_Dump()); }
 
  private:
-  Built_In& built_in_;
+  const Built_In& built_in_;
+  Midi::Byte_Receiver receiver_;
 };
 
 Parameter_List Built_In::Values(const List_Id& id) const {
@@ -78,11 +71,11 @@ int Built_In::Last_Unit() const {
   return receiver_.memory.Last_Unit();
 }
 
-void Built_In::Transmit_Tone() {
+// The unit number is that of the last message, 0 before.
+std::string Built_In::Tone_Dump() const {
   const std::lock_guard lock(mutex_);
   const int unit = std::max(0, receiver_.memory.Last_Unit());
-  const std::string dump = receiver_.memory.Tone_Dump(static_cast<std::uint8_t>(unit));
-  for (Out_Cable* listener : listeners_) listener->receiver(dump);
+  return receiver_.memory.Tone_Dump(static_cast<std::uint8_t>(unit));
 }
 
 std::vector<Midi::Port> Built_In::Ports(Midi::Direction /*direction*/) {

@@ -1,11 +1,13 @@
 // The built-in instrument: a device "Built-in JX-8P" among the outputs and inputs, so that the program does
 // its whole job on a machine without MIDI. It is a receiver of its own, which knows nothing of how the
-// program makes its bytes. It makes no sound: it keeps what an instrument would keep.
+// program makes its bytes. It makes no sound: it keeps what an instrument would keep. It has no tone buttons
+// either: whoever starts to listen gets the JX-8P's tone at once, as if one had been pressed.
 #pragma once
 
 #include <bitset>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -47,9 +49,6 @@ struct Built_In final : Midi::Backend {
   Parameter_List Values(const List_Id& id) const;
   int Sounding_Notes() const;
   int Last_Unit() const;  // as Parameter_Memory::Last_Unit
-  // Sends the JX-8P's tone to every open input, as an instrument does when one of its tone buttons is
-  // pressed. The unit number is that of the last message, 0 before.
-  void Transmit_Tone();
 
   // --- the backend
   void Refresh() override {}
@@ -60,10 +59,10 @@ struct Built_In final : Midi::Backend {
  private:
   struct In_Cable;   // an open output of the program
   struct Out_Cable;  // an open input of the program
+  std::string Tone_Dump() const;
 
   mutable std::mutex mutex_;
   Receiver receiver_;
-  std::vector<Out_Cable*> listeners_;
 };
 
 }  // namespace Instrument

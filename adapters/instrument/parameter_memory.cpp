@@ -1,6 +1,7 @@
 #include "adapters/instrument/parameter_memory.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace Instrument {
 namespace {
@@ -15,6 +16,9 @@ constexpr List_Row Lists[] = {
     {{Model_MKS70, Patch_Kind, Level_1}, 65},
 };
 
+// A tone begins with its name; the other values of a new instrument are 0.
+constexpr std::string_view First_Name = "BUILT-IN  ";
+
 // Places in the head.
 constexpr std::size_t At_Manufacturer = 0;
 constexpr std::size_t At_Operation = 1;
@@ -26,7 +30,10 @@ constexpr std::size_t At_Level = 5;
 }  // namespace
 
 Parameter_Memory::Parameter_Memory() {
-  for (const List_Row& row : Lists) lists_.push_back({row.id, Parameter_List(row.size)});
+  for (const List_Row& row : Lists) {
+    lists_.push_back({row.id, Parameter_List(row.size)});
+    if (row.id.kind == Tone_Kind) std::ranges::copy(First_Name, lists_.back().values.begin());
+  }
 }
 
 Parameter_List Parameter_Memory::Values(const List_Id& id) const {

@@ -31,7 +31,7 @@ struct List_Id {
 using Parameter_List = std::vector<std::uint8_t>;
 
 struct Parameter_Memory {
-  Parameter_Memory();
+  Parameter_Memory();  // tones named "BUILT-IN", all else 0
 
   // The values of a list; empty for a list that the instrument does not have. A JX-8P has a tone (59) and a
   // patch (7), an MKS-70 two tones (59) and a patch (65).

@@ -52,6 +52,8 @@ constexpr std::string_view Break = "\xF6";
 // An open input port. After its destruction the receiver is not called any more.
 struct Source {
   virtual ~Source() = default;
+  // The program listens from now on. User-interface thread.
+  virtual void Started() {}
 };
 
 // All calls come on the user-interface thread.

@@ -35,7 +35,9 @@ bool Input::Has_Buffer(const MIDI_Header& header) const {
 }
 
 void Input::Start() {
-  if (state_->run == 0) state_->run = ++state_->runs;
+  if (state_->run != 0) return;
+  state_->run = ++state_->runs;
+  source_->Started();
 }
 
 void Input::Reset() {

@@ -25,7 +25,7 @@ struct Input {
 
   int Add_Buffer(MIDI_Header& header);
   bool Has_Buffer(const MIDI_Header& header) const;
-  void Start();
+  void Start();  // REQUIRES: Open succeeded
   void Reset();  // stops, and gives all buffers back empty
 
  private:

@@ -1,4 +1,4 @@
-"""A tone sent by the instrument reaches the panel; what is no tone leaves it waiting."""
+"""A tone sent by the instrument, or by the built-in one, reaches the panel; what is no tone leaves it waiting."""
 
 from harness.machine import wait_until
 from harness.program import Session
@@ -14,13 +14,23 @@ def instrument_tone(name, cutoff):
     return bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + b"\xF7", record
 
 
-def turn_on(screen):
+def turn_on(screen, device=None):
     """The setup window opens the menu's item."""
     screen.menu("MIDI", "Setup...")
     screen.wait_for("OK")
+    if device:
+        screen.choose("synth:out", device)
     screen.key("Return")
     assert screen.box().startswith("Please don't forget to enable the MIDI System Exclusive (SysEx)")
     screen.answer("OK")
+
+
+def from_the_built_in_instrument(screen):
+    """It has no tone buttons, and sends its tone as soon as the program listens."""
+    turn_on(screen, "Built-in JX-8P")
+    screen.menu("Tone", "Receive ")
+    wait_until(lambda: screen.text("Tone name").rstrip() == "BUILT-IN", "the built-in instrument's tone")
+    wait_until(lambda: screen.is_enabled("File"), "the end of the wait")
 
 
 def main():
@@ -54,6 +64,7 @@ def main():
         wire.expect(All_notes_off)
         # A value that the display still shows goes after a second.
         wait_until(lambda: screen.text("Tone name") == "SOLO LEAD", "the tone that came in time")
+        from_the_built_in_instrument(screen)
         assert session.interrupt() == 0
 
 
