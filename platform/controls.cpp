@@ -7,34 +7,12 @@
 #include "platform/text.h"
 
 Control::Control(Form& owner_form, Kind control_kind, std::string_view control_name)
-    : Component(control_name),
-      form(owner_form),
-      container(nullptr),
-      kind(control_kind),
-      left(*this, 0),
-      top(*this, 0),
-      width(*this, 0),
-      height(*this, 0),
-      visible(*this, true),
-      enabled(*this, true),
-      tag(*this),
-      tool_tip(*this) {
+    : Component(control_name), form(owner_form), container(nullptr), kind(control_kind) {
   form.controls.push_back(this);
 }
 
 Control::Control(Control& owner_container, Kind control_kind, std::string_view control_name)
-    : Component(control_name),
-      form(owner_container.form),
-      container(&owner_container),
-      kind(control_kind),
-      left(*this, 0),
-      top(*this, 0),
-      width(*this, 0),
-      height(*this, 0),
-      visible(*this, true),
-      enabled(*this, true),
-      tag(*this),
-      tool_tip(*this) {
+    : Component(control_name), form(owner_container.form), container(&owner_container), kind(control_kind) {
   form.controls.push_back(this);
 }
 
@@ -145,6 +123,7 @@ bool Enabled_In_Form(const Control& control) {
 }
 
 bool Can_Take_Focus(const Control& control) {
-  const bool display_only = control.kind == Kind::Label || control.kind == Kind::Line || control.kind == Kind::Frame_Box;
+  const bool display_only =
+      control.kind == Kind::Label || control.kind == Kind::Line || control.kind == Kind::Frame_Box;
   return !display_only && control.tab_index >= 0 && Shown_In_Form(control) && Enabled_In_Form(control);
 }

@@ -1,6 +1,6 @@
 // The control kinds that windows are made of, as plain data.
-// The program reads and writes properties and fills event slots; a desktop shows the properties and hands the user's
-// events in through input.h. All places and sizes are whole pixels of the container.
+// The program reads and writes properties and fills event slots; a desktop shows the properties and hands the
+// user's events in through input.h. All places and sizes are whole pixels of the container.
 #pragma once
 
 #include <functional>
@@ -44,14 +44,15 @@ struct Control : Component {
   Control* const container;  // nullptr: the form itself
   const Kind kind;
 
-  Property<int> left, top, width, height;
-  Property<bool> visible, enabled;
-  Property<std::string> tag;
-  Property<std::string> tool_tip;
+  Property<int> left{*this, 0}, top{*this, 0}, width{*this, 0}, height{*this, 0};
+  Property<bool> visible{*this, true}, enabled{*this, true};
+  Property<std::string> tag{*this};
+  Property<std::string> tool_tip{*this};
 
-  int tab_index = -1;    // place in the order of Tab; -1: takes no focus. A label never does: its access key goes on
-  int help_context = 0;  // 0: none
-  bool mouse_through = false;  // presses on it count as presses on its container
+  int tab_index =
+      -1;  // place in the order of Tab; -1: takes no focus. A label never does: its access key goes on
+  int help_context = 0;                       // 0: none
+  bool mouse_through = false;                 // presses on it count as presses on its container
   std::string spoken_name;                    // in plain words, "VCF cutoff frequency"
   std::function<std::string()> spoken_value;  // its value with its meaning; may be empty
 
@@ -64,7 +65,8 @@ struct Control : Component {
 // A picture, or the background of other controls that lie on it.
 struct Picture_Box final : Control {
   template <class Owner>
-  Picture_Box(Owner& owner, std::string_view control_name) : Control(owner, Kind::Picture_Box, control_name) {}
+  Picture_Box(Owner& owner, std::string_view control_name)
+      : Control(owner, Kind::Picture_Box, control_name) {}
 
   Property<Picture> picture{*this};
   Role role = Role::Picture;
@@ -98,9 +100,9 @@ struct Text_Box final : Control {
   void Select_All();
 
   Property<std::string> text{*this};  // read it; write it through Set_Text where a change handler matters
-  Property<int> selection_start{*this, 0};   // in characters
+  Property<int> selection_start{*this, 0};  // in characters
   Property<int> selection_length{*this, 0};
-  Property<std::string> font_face{*this};    // empty: the desktop's
+  Property<std::string> font_face{*this};  // empty: the desktop's
   Property<Color> fore_color{*this, Black};
   Property<Color> back_color{*this, White};
   Property<bool> own_colors{*this, false};
@@ -112,7 +114,8 @@ struct Text_Box final : Control {
 
 struct Command_Button final : Control {
   template <class Owner>
-  Command_Button(Owner& owner, std::string_view control_name) : Control(owner, Kind::Command_Button, control_name) {}
+  Command_Button(Owner& owner, std::string_view control_name)
+      : Control(owner, Kind::Command_Button, control_name) {}
 
   Property<std::string> caption{*this};
   bool is_default = false;  // Enter clicks it
@@ -154,7 +157,8 @@ struct List_Control : Control {
 
 struct Combo_Box final : List_Control {  // a drop-down list
   template <class Owner>
-  Combo_Box(Owner& owner, std::string_view control_name) : List_Control(owner, Kind::Combo_Box, control_name) {}
+  Combo_Box(Owner& owner, std::string_view control_name)
+      : List_Control(owner, Kind::Combo_Box, control_name) {}
 };
 
 struct List_Box final : List_Control {

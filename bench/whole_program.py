@@ -1,11 +1,6 @@
-#!/usr/bin/python3 -B
-"""Figures of the whole program on a virtual display, beside a bare frame of the toolkit. Run it on an idle machine:
-
-    bench/whole_program [BUILD]     BUILD: build/release if not given
-"""
+"""Figures of the whole program on a virtual display, beside a bare frame of the toolkit."""
 
 import mmap
-import multiprocessing
 import os
 import pathlib
 import statistics
@@ -20,7 +15,6 @@ sys.path.insert(0, str(Root / "tests" / "e2e"))
 from harness.machine import Machine, end, wait_until  # noqa: E402
 from harness.program import Session  # noqa: E402
 
-Build = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else Root / "build" / "release").resolve()
 Starts = 10
 Idle_s = 20
 Stopped_s = 8
@@ -95,38 +89,25 @@ def processor_s(process):
     return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
 
 
-def tell(what, value, unit, bare=None):
-    beside = "" if bare is None else f"   bare frame {bare:8.1f} {unit}   {value / bare:.2f} times"
-    print(f"{what:<44} {value:8.1f} {unit}{beside}", flush=True)
-
-
-def start_and_memory(jack):
-    """A JACK server shares its memory with every client, so its part is told apart."""
-    print(f"{'with' if jack else 'without'} a JACK server", flush=True)
-    programs = [str(Build / "bin" / "melvor"), str(Build / "bin" / "bare_frame")]
+def start_and_rest(programs, jack):
+    """For each program: milliseconds to the first paint, resident megabytes, and per cent of a processor at rest."""
+    times = {program: [] for program in programs}
     with Stage(jack) as machine:
         del machine.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"]
         settings(machine)
-        times = {program: [] for program in programs}
         for _ in range(Starts):
             for program in programs:
                 times[program].append(first_paint_ms(machine, program))
-        medians = [statistics.median(times[program]) for program in programs]
-        tell("start to first paint, median", medians[0], "ms", medians[1])
-
-        memory = {}
+        figures = {}
         for program in programs:
             process = machine.start("resting", [program])
             time.sleep(Settle_s)
-            memory[program] = [resident_kb(process, kind) / 1024 for kind in ("Rss", "Pss")]
-            if program == programs[0]:
-                before = processor_s(process)
-                time.sleep(Idle_s)
-                idle = (processor_s(process) - before) / Idle_s * 100
+            before = processor_s(process)
+            time.sleep(Idle_s)
+            idle = (processor_s(process) - before) / Idle_s * 100
+            figures[program] = statistics.median(times[program]), resident_kb(process, "Rss") / 1024, idle
             end(process)
-        tell("resident memory", memory[programs[0]][0], "MB", memory[programs[1]][0])
-        tell("its own and its share of what others use", memory[programs[0]][1], "MB", memory[programs[1]][1])
-        tell("processor use, idle with the blink running", idle, "% ")
+    return [figures[program] for program in programs]
 
 
 def longest_answer_ms(session, seconds):
@@ -151,66 +132,47 @@ def drag_beside(session, seconds):
                                           "1"])
 
 
-def gaps():
+def longest_answers_in_a_drag():
+    """While the JACK server runs, and while it stands still; milliseconds."""
     with Session("gaps") as session:
         session.screen.click("VCF cutoff frequency")
         session.wire.wait_for(1)
-        for what, stopped in (("running", False), ("stopped", True)):
+        longest = []
+        for stopped in (False, True):
             hand = drag_beside(session, Stopped_s)
             if stopped:
                 session.machine.pause_jack()
-            longest = longest_answer_ms(session, Stopped_s)
+            longest.append(longest_answer_ms(session, Stopped_s))
             if stopped:
                 session.machine.resume_jack()
-            tell(f"longest answer in a drag, JACK server {what}", longest, "ms")
             hand.wait()
+        return longest
 
 
-def tell_lateness(what, times_us):
-    """times_us: when the ticks came. Their schedule is where the earliest hundredth of them stands, since a stamp of
-    the server's clock can be off by itself."""
+def lateness(times_us):
+    """99th percentile and drift, in milliseconds, of ticks by the times when they came. Their schedule is where the
+    earliest hundredth of them stands, since a stamp of the server's clock can be off by itself."""
     late_ms = [(time - times_us[0]) / 1000 - step * Step_ms for step, time in enumerate(times_us)]
     schedule_ms = sorted(late_ms)[len(late_ms) // 100]
     late_ms = sorted(late - schedule_ms for late in late_ms)
     part = len(times_us) // 10
     drift_ms = ((statistics.mean(times_us[-part:]) - statistics.mean(times_us[:part])) / 1000
                 - (len(times_us) - part) * Step_ms)
-    print(f"{what:<44} median {statistics.median(late_ms):.2f} ms   99th percentile "
-          f"{late_ms[int(len(late_ms) * 0.99)]:.2f} ms   drift {drift_ms:+.2f} ms in {Played_s} s", flush=True)
+    return late_ms[int(len(late_ms) * 0.99)], drift_ms
 
 
-def ticks():
-    """The sequencer's steps as they arrive at a JACK client while a slider is dragged all the time."""
+def lateness_in_a_drag(bare_frame):
+    """Of the sequencer's steps as they arrive at a JACK client while a slider is dragged all the time, and of a bare
+    precise timer."""
     session = Session("ticks", settings={"MIDI": {"Sequence Preload": "1"},
                                          "Recent Files": {"Sequences": "c:\\", "Sequence1": "C:\\BENCH.SEQ"}})
     (session.machine.home / "bench.seq").write_bytes(b"SEQ1" + bytes([120, 48]) + bytes([127] * 8 * Rows))
     with session:
         session.screen.click("Start sequencer")
-        hand = drag_beside(session, Played_s)
-        hand.wait()
+        drag_beside(session, Played_s).wait()
         notes = [stamp for stamp, message in session.wire.all() if len(message) == 3 and message[0] == 0x90]
         session.screen.click("Stop sequencer")
         steps = notes[::Rows][: Played_s * 1000 // Step_ms]
-        tell_lateness("sequencer's steps on the wire, in a drag", steps)
-        bare = session.machine.start("bare", [str(Build / "bin" / "bare_frame"), str(Step_ms), str(len(steps))],
-                                     stdout=subprocess.PIPE)
+        bare = session.machine.start("bare", [bare_frame, str(Step_ms), str(len(steps))], stdout=subprocess.PIPE)
         printed, _ = bare.communicate()
-        tell_lateness("bare precise timer, nothing else to do", [int(line) for line in printed.split()])
-
-
-def main():
-    print(subprocess.run(["uname", "-srm"], capture_output=True, text=True, check=True).stdout.strip(),
-          f"{os.cpu_count()} processors, load {os.getloadavg()[0]:.1f}")
-    os.environ["MELVOR"] = str(Build / "bin" / "melvor")
-    os.environ["JACK_CAPTURE"] = str(Build / "bin" / "jack_capture")
-    os.environ["SCREENSHOTS"] = str(Build / "screenshots")
-    start_and_memory(jack=False)
-    start_and_memory(jack=True)
-    for part in (gaps, ticks):  # each in a process of its own: the accessibility library knows one bus
-        process = multiprocessing.Process(target=part)
-        process.start()
-        process.join()
-
-
-if __name__ == "__main__":
-    main()
+        return lateness(steps), lateness([int(line) for line in printed.split()])
