@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
   Prepare_Toolkit();
   QApplication application(argc, argv);
   QApplication::setApplicationName("MELVOR");
-  QApplication::setDesktopFileName("melvor");
+  QApplication::setDesktopFileName("io.github.melvor.melvor");
   Drives_Find();
   Directories_Find(QCoreApplication::applicationFilePath().toStdString());
   Randomize();
