@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <random>
+#include <set>
 
 #include "adapters/instrument/instrument.h"
 #include "panel/editor_fixture.h"
@@ -104,53 +105,28 @@ TEST_F(Editor_Test, Activation_Starts_At_The_First_Element) {
   Unload(other);
 }
 
-// A hand that plays with everything.
-struct Random_Walk : Editor_Fixture {
-  Random_Walk() {
-    for (const Slider_Row& row : Editor_Sliders()) elements.push_back(&(Editor.*row.element));
-    for (const Switch_Row& row : Editor_Switches()) elements.push_back(&(Editor.*row.element));
-    for (const Knob_Row& row : Editor_Knobs())
-      elements.insert(elements.end(), {&(Editor.*row.body), &(Editor.*row.dot)});
-  }
-  int Pick(int low, int high) { return std::uniform_int_distribution<int>(low, high)(chance); }
-  void Work(Picture_Box& element) {
-    Set_Focus(element);
-    for (int times = Pick(0, 4); times > 0; --times) desktop.Key(Pick(Key::Space, Key::Digit_0));
-    desktop.Press(*Active_Ctl);
-    for (int times = Pick(0, 6); times > 0; --times) {
-      desktop.Move(*Active_Ctl, static_cast<float>(Pick(-300, 300)) / 8,
-                   static_cast<float>(Pick(-300, 300)) / 8);
-    }
-    desktop.Release(*Active_Ctl);
-  }
-
-  std::vector<Picture_Box*> elements;
+TEST_F(Editor_Test, After_A_Random_Walk_The_Instrument_Has_The_Same_Tone) {
   std::mt19937 chance{20817};
-};
-
-TEST_F(Random_Walk, After_It_The_Instrument_Has_The_Same_Tone) {
+  const auto pick = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(chance); };
+  const auto place = [&] { return static_cast<float>(pick(-300, 300)) / 8; };
   Instrument::Receiver instrument;
-  const auto tone = [] { return Instrument::Parameter_List(Tone.bytes.begin(), Tone.bytes.end()); };
   SysEx_Dump_Send();
-  const auto first = tone();
   for (int step = 0; step < 2000; ++step) {
-    Work(*elements[static_cast<std::size_t>(Pick(0, static_cast<int>(elements.size()) - 1))]);
-    if (step % 7 == 0) desktop.Advance_ms(Pick(1, 1200));
+    for (int times = pick(1, 20); times > 0; --times) desktop.Key(Key::Tab);
+    for (int times = pick(0, 4); times > 0; --times) desktop.Key(pick(Key::Space, Key::Digit_0));
+    desktop.Press(*Active_Ctl);
+    for (int times = pick(0, 6); times > 0; --times) desktop.Move(*Active_Ctl, place(), place());
+    desktop.Release(*Active_Ctl);
+    if (step % 7 == 0) desktop.Advance_ms(pick(1, 1200));
   }
   instrument.Take(service.Wire());
-  ASSERT_NE(tone(), first);
-
+  const auto values = instrument.memory.Values({});
   // A slow drag of a switch is not heard; everything else is.
   std::vector<int> heard{13, 19, 20, 58};
   for (const Slider_Row& row : Editor_Sliders()) heard.push_back(row.range.index);
-  for (const int index : heard)
-    EXPECT_EQ(instrument.memory.Values({})[static_cast<std::size_t>(index)], Tone[index]) << index;
-  for (const std::uint8_t byte : tone()) ASSERT_LE(byte, 127);
-
-  service.Take_Sent();
-  SysEx_Dump_Send();
-  instrument.Take(service.Wire());
-  EXPECT_EQ(instrument.memory.Values({}), tone());
+  for (const int index : heard) EXPECT_EQ(values[static_cast<std::size_t>(index)], Tone[index]) << index;
+  for (const std::uint8_t byte : Tone.bytes) ASSERT_LE(byte, 127);
+  EXPECT_GT(std::set<int>(values.begin(), values.end()).size(), 20U) << "the walk moves things";
 }
 
 }  // namespace

@@ -58,7 +58,6 @@ TEST_F(Patch_Test, Keys_Move_Each_Kind_By_Its_Own_Rule) {
   Expect_Keys({{time, 1, 64, Key::Page_Up, 74, "20 62", "57"},
                {time, 1, 120, Key::Page_Up, 127, "20 28", "99"},
                {time, 1, 9, Key::Page_Down, 0, "20 108", "0"},
-               {time, 1, 125, Key::Keypad_Plus, 126, "20 29", "98"},
                {time, 1, 64, Key::Left, 64, "20 68", "49"},
                {Patch.Pitch_Bend_LFO, 5, 64, Key::Home, 127, "86 28", "99"},
                {range, 0, 0, Key::Up, 32, "117 48", ""},
@@ -70,11 +69,9 @@ TEST_F(Patch_Test, Keys_Move_Each_Kind_By_Its_Own_Rule) {
                {knob, 6, 64, Key::Page_Up, 74, "14 5", "8"},
                {knob, 6, 64, Key::Left, 63, "12 5", "0"},
                {knob, 6, 64, Key::Home, 127, "15 14", "50"},
-               {knob, 6, 10, Key::Digit_0, 63, "12 5", "0"},
                {dot, 6, 64, Key::Page_Down, 54, "7 8", "-7"},  // on a circle of its own
                {dot, 6, 64, Key::Up, 64, "10 7", "0"},         // no arrow keys
-               {dot, 6, 64, Key::Home, 127, "6 10", "50"},
-               {dot, 6, 0, Key::Keypad_Minus, 0, "14 9", "-50"}});
+               {dot, 6, 64, Key::Home, 127, "6 10", "50"}});
   for (const int key : {Key::End, Key::Keypad_Plus, Key::Space}) {
     Key_On(range, key);
     Key_On(portamento, key);
@@ -93,14 +90,12 @@ TEST_F(Patch_Test, The_Mouse_Moves_Each_Kind_By_Its_Own_Rule) {
                 {depth, 5, 4, 0, 30, true, "86 90"},
                 {depth, 5, 4, 200, 0, true, "86 108"},
                 {Patch.UDTune, 6, 10, 4, 74, true, "14 5"},  // counts from the left edge
-                {Patch.UDTune, 6, 7, 4, 71, true, "14 5"},
                 {Patch.UDTune_Knopf, 6, 500, 4, 127, true, "15 14"},
                 {range, 0, 4, -33, 33, false, "117 48"},  // the first drag of a run
                 {range, 0, 4, -20, 53, true, "117 48"},
                 {range, 0, 4, -4, 57, false, "117 48"},
                 {range, 0, 4, -9, 66, true, "117 38"},
                 {range, 0, 4, 46, 20, true, "117 38"},  // the cap stays where it was
-                {range, 0, 4, -0.5F, 20, false, "117 38"},
                 {range, 0, 4, -200, 127, true, "117 38"},
                 {range, 0, 4, 200, 0, true, "117 58"}});
 }
@@ -136,7 +131,6 @@ TEST_F(Patch_Test, Lights_Are_Chosen_By_Click_And_Key) {
   for (const int value : {0, 1, 2, 4, 5, 6}) {
     desktop.Click(Patch.Key_Mode[item]);
     EXPECT_EQ(Sent(), Messages{Message(3, value)});
-    EXPECT_EQ(Active_Ctl, &Patch.Key_Mode[item]);
     EXPECT_EQ(Lit(Patch.Key_Mode), std::to_string(item++));
   }
   for (const int key : {Key::Down, Key::Page_Up}) desktop.Key(key);
@@ -147,7 +141,6 @@ TEST_F(Patch_Test, Lights_Are_Chosen_By_Click_And_Key) {
   for (int step = 0; step < 4; ++step) desktop.Key(Key::Page_Down);
   EXPECT_EQ(Sent().back(), Message(4, 0));
   EXPECT_EQ(Lit(Patch.After_Touch) + Lit(Patch.Key_Mode), "04") << "the other group keeps its light";
-
   Blink_Phase = 0;
   Set_Focus(Patch.Key_Mode[0]);
   Ctl_Blink();
@@ -159,22 +152,17 @@ TEST_F(Patch_Test, Lights_Are_Chosen_By_Click_And_Key) {
 TEST_F(Patch_Test, Tab_Walks_The_Groups_Forward_Even_With_Shift) {
   desktop.Click(Patch.Key_Mode[2]);
   desktop.Click(Patch.After_Touch[1]);
-  struct Row {
-    Control& from;
-    int code, shift;
-    Control& to;
+  const auto from = [&](Picture_Box& element, int code, int shift) {
+    Set_Focus(element);
+    desktop.Key(code, shift);
+    return Focused_Control();
   };
-  for (const Row& row : {Row{Patch.Key_Mode[5], Key::Tab, 0, Patch.After_Touch[1]},
-                         Row{Patch.Key_Mode[5], Key::Tab, Shift_Key, Patch.After_Touch[1]},
-                         Row{Patch.Key_Mode[5], 19, Shift_Key, Patch.Pitch_Bend_Range},
-                         Row{Patch.After_Touch[0], Key::Tab, Shift_Key, Patch.UDTune},
-                         Row{Patch.After_Touch[0], 19, Shift_Key, Patch.Key_Mode[2]},
-                         Row{Patch.After_Touch[0], 19, 0, Patch.After_Touch[0]},
-                         Row{Patch.Pitch_Bend_Range, Key::Tab, 0, Patch.Key_Mode[0]}}) {
-    Set_Focus(row.from);
-    desktop.Key(row.code, row.shift);
-    EXPECT_EQ(Focused_Control(), &row.to) << row.from.name << " to " << row.to.name;
+  for (const int shift : {0, Shift_Key}) {
+    EXPECT_EQ(from(Patch.Key_Mode[5], Key::Tab, shift), &Patch.After_Touch[1]);
+    EXPECT_EQ(from(Patch.After_Touch[0], Key::Tab, shift), &Patch.UDTune);
   }
+  EXPECT_EQ(from(Patch.Key_Mode[5], 19, Shift_Key), &Patch.Pitch_Bend_Range);
+  EXPECT_EQ(from(Patch.After_Touch[0], 19, Shift_Key), &Patch.Key_Mode[2]);
   EXPECT_EQ(Active_Ctl, &Patch.Key_Mode[2]) << "focus on a group selects its chosen item";
 }
 
