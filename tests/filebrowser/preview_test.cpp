@@ -83,6 +83,7 @@ TEST_F(Preview_Test, A_Clicked_Sequence_Is_Drawn_And_Plays_From_Its_Start) {
 TEST_F(Preview_Test, Without_MIDI_Files_Load_Silently_And_The_Switches_Are_Grey) {
   MIDI_Enabled = 0;
   Open("Open_SYX");
+  for (const char letter : {'P', 'S', 'C'}) desktop.Key(letter, Alt_Key);
   EXPECT_EQ(Autoplay + Autosend, 0);
   for (const Control* control : std::initializer_list<Control*>{
            &File_Dlg.FD_SYX_CB_Autoplay, &File_Dlg.FD_SYX_CB_Autosend, &Item(0), &Item(1),

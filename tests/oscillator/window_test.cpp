@@ -10,9 +10,9 @@ constexpr int Border = 1;  // of the field around its scale
 // Which light of the waves shows what; the others are dark.
 void Expect_Lights(int wave, int light) {
   for (int other = 0; other < Osc_Waves; ++other) {
-    EXPECT_EQ(Oscillator.Osc_Wave[static_cast<std::size_t>(other)].picture(),
-              LED(other == wave ? light : LED_Dark))
-        << other;
+    const Picture_Box& box = Oscillator.Osc_Wave[static_cast<std::size_t>(other)];
+    EXPECT_EQ(box.picture(), LED(other == wave ? light : LED_Dark)) << other;
+    EXPECT_EQ(box.spoken_value(), other == wave ? "on" : "off") << other;
   }
 }
 
@@ -121,7 +121,11 @@ TEST_F(Window_Test, Any_Release_Marks_The_Curve_As_Kept) {
 }
 
 TEST_F(Window_Test, Start_Stays_Down_Until_Stop_Is_Released) {
-  desktop.Click(Oscillator.Osc_Start_Pic);
+  Set_Focus(Oscillator.Osc_Start);
+  desktop.Key(Key::Letter_A);
+  EXPECT_TRUE(Sent().empty());
+  desktop.Key(Key::Space);
+  EXPECT_EQ(Sent().size(), 1U) << "the space bar starts too";
   desktop.Press(Oscillator.Osc_Stop);
   EXPECT_EQ(Oscillator.Osc_Start.picture(), Button_Dn3D);
   EXPECT_EQ(Oscillator.Osc_Stop_Pic.left(), 4) << "a symbol goes along with its button";

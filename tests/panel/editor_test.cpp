@@ -70,6 +70,21 @@ TEST_F(Editor_Test, A_Shown_Tone_Stands_In_Plain_Bands) {
   EXPECT_TRUE(Sent().empty());
 }
 
+TEST_F(Editor_Test, Elements_Say_Their_Values_With_Their_Meanings) {
+  std::string said;
+  for (const auto& [element, index, value] : {std::tuple{&Editor.VCF_CutoffF, 34, 127},
+                                              {&Editor.DCO1_Range, 11, 64},
+                                              {&Editor.DCO2_Crossmod, 18, 255},
+                                              {&Editor.LFO_Waveform, 44, 127},
+                                              {&Editor.VCA_Mode, 58, 63},
+                                              {&Editor.DCO1_Tune, 13, 0},
+                                              {&Editor.DCO2_FTune_Knopf, 20, 127}}) {
+    Have(index, value);
+    said += element->spoken_value() + ", ";
+  }
+  EXPECT_EQ(said, "99, 4 feet, cross modulation, triangle, gate, -12 semitones, 50, ");
+}
+
 TEST_F(Editor_Test, The_Selected_Element_Blinks_And_Rests_When_It_Is_Left) {
   struct Row {
     Picture_Box& element;

@@ -54,6 +54,13 @@ TEST_F(MKS70_Test, The_Detune_Goes_To_The_Tone_That_Is_Shown_And_Blinks_In_The_O
   Ctl_Blink();
   EXPECT_EQ(Patch.UDTune_Knopf.picture(), Buttons(Knob_Dot + 1));
   EXPECT_EQ(Panel.UDTune_Knopf.picture(), Buttons(Knob_Dot));
+  for (const int index : {1, 5, 7}) MKS70_SetValue(index, 64);
+  EXPECT_EQ(Panel.Patch_Name.text(), "49");
+  Autosend = 0;
+  Tone_Loading = Flag_On;
+  MKS70_SetValue(1, 127);
+  EXPECT_EQ(Panel.Patch_Name.text(), "49") << "while a tone loads it is silent and shows nothing";
+  EXPECT_EQ(Sent(), (Messages{Message(1, 64), Message(5, 64), Message(7, 64)}));
   MELVOR.Menu_Windows_SavePos.checked = true;
   User_Placed(Panel, 60, 75, Panel.width, Panel.height);
   desktop.Key(Key::Escape, 0, 27);

@@ -108,6 +108,10 @@ TEST_F(Sequencer_Test, Every_Way_To_Stop_Ends_Clock_And_Notes) {
     EXPECT_EQ(service.Out_Is_Open(), !row.closes);
     Unload(Sequencer);
   }
+  Sent();
+  Seq_Stop_For_Tone_Menu();
+  Seq_Stop_For_Setup();
+  EXPECT_EQ(Sent(), Texts()) << "what does not run is not stopped";
 }
 
 TEST_F(Sequencer_Test, A_Start_That_Is_Refused_Springs_Back) {

@@ -10,14 +10,19 @@ std::string File_Of(int speed, int base_note, char cell = 0) {
 TEST_F(Sequencer_Test, A_Saved_File_Has_Head_Tempo_Base_Note_And_Cells_And_Keeps_Tail_And_Copy) {
   root.Put("my.seq", File_Of(30, 48, 5) + "tail");
   Seq_Speed = 100;
-  Seq_Base_Note = 0x3C;
   Seq_Data[0] = 127;
   Seq_Data[12] = 63;
   Seq_Data[13] = 200;
   Seq_Data[103] = 1;
   Seq_Saved = Flag_Off;
+  Open_Window();
+  Seq_Base_Note = 0x3C;
+  Seq_File.clear();
+  Menu_File_Seq_Save();
+  EXPECT_EQ(Dlg_Kind, "SaveAs_SEQ") << "there is no file yet";
   Seq_File = "c:\\my.seq";
   Menu_File_Seq_Save();
+  EXPECT_EQ(Sequencer.caption(), "Sequencer - MY.SEQ");
   std::string want("SEQ1\x64\x3C", 6);
   want += '\x7F' + std::string(11, '\0') + "\x3F\xC8" + std::string(89, '\0') + "\x01tail";
   EXPECT_EQ(root.Get("my.seq"), want);
