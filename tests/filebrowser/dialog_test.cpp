@@ -49,17 +49,10 @@ TEST_F(Dialog_Test, Keys_Work_And_Alt_Ends_In_The_File_Name) {
     list->on_got_focus = [&focused, list] { focused += list->name.substr(8); };
   }
   // The key, then Autoplay, Autosend and Soundcheck as digits.
-  for (const auto& [key, switches] : {std::pair{'Q', "111"},
-                                      {'C', "110"},
-                                      {'S', "100"},
-                                      {'P', "000"},
-                                      {'Q', "000"},
-                                      {'P', "100"},
-                                      {'D', "100"},
-                                      {'F', "100"},
-                                      {'T', "100"},
-                                      {'V', "100"},
-                                      {'X', "100"}}) {
+  const std::vector<std::pair<int, std::string>> rows{{'Q', "111"}, {'C', "110"}, {'S', "100"}, {'P', "000"},
+                                                      {'Q', "000"}, {'P', "100"}, {'D', "100"}, {'F', "100"},
+                                                      {'T', "100"}, {'V', "100"}, {'X', "100"}};
+  for (const auto& [key, switches] : rows) {
     Set_Focus(File_Dlg.FD_Button_Ok);
     EXPECT_TRUE(desktop.Key(key, Alt_Key));
     EXPECT_EQ(std::to_string(Autoplay) + std::to_string(Autosend) + std::to_string(Soundcheck), switches)

@@ -91,13 +91,9 @@ TEST(Oscillator_Curve, Amplitude_And_Offset_Cut_And_Clamp) {
 }
 
 TEST(Oscillator_Curve, Reading_Back_Undoes_Amplitude_And_Offset) {
-  for (const Level_Row& row : {Level_Row{95, 64, 0, 96},
-                               {64, 64, -1, 64},
-                               {63, 127, 0, 64},
-                               {10, 127, 0, 37},
-                               {0, 32, 0, -62},
-                               {127, 1, 64, 8256},
-                               {0, 1, -64, -8064}}) {
+  const std::vector<Level_Row> rows{{95, 64, 0, 96}, {64, 64, -1, 64},   {63, 127, 0, 64},  {10, 127, 0, 37},
+                                    {0, 32, 0, -62}, {127, 1, 64, 8256}, {0, 1, -64, -8064}};
+  for (const Level_Row& row : rows) {
     Osc_Out.fill({static_cast<std::int16_t>(row.from), 63});
     Osc_Unshape(row.amplitude, row.offset);
     EXPECT_EQ(Osc_Raw[17].start, row.want) << row.from << " at " << row.amplitude;
