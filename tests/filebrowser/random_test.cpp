@@ -58,7 +58,8 @@ struct Random_Test : Filebrowser_Test {
     if (chosen < 2) return Act_On(File_Dlg.FD_List_Files);
     if (chosen == 2) return Enter(One_Of(names));
     if (chosen == 3) return desktop.Advance_ms(Any(600));
-    if (chosen == 4) desktop.Key('A' + Any(26), Any(2) * Alt_Key);
+    if (chosen == 4 && Focused_Control() != &File_Dlg.FD_Button_Newdir)
+      desktop.Key(Any(5) == 0 ? Key::Space : 'A' + Any(26), Any(2) * Alt_Key);
     if (chosen > 4) Act_On(*One_Of(File_Dlg.controls));
   }
   // Now and then a further action falls into the wait before a note.

@@ -32,6 +32,16 @@ TEST_F(Sequencer_Test, A_Tick_Sends_All_Rows_From_The_Top_Whatever_They_Hold) {
   EXPECT_EQ(Seq_Step, 2);
 }
 
+TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Silencing) {
+  Seq_Saved = Flag_Off;
+  desktop.Click(Editor.ED_Seq_Start);
+  service.Fail_Next(Midi_Operation::Out_Short, 5, 99);
+  desktop.on_other_box = [](const Shown_Box&) { return Answer::Ok; };
+  desktop.Advance_ms(250);
+  EXPECT_EQ(desktop.boxes.size(), 2U);
+  EXPECT_EQ(MIDI_Enabled, 0);
+}
+
 TEST_F(Sequencer_Test, Each_Mode_Walks_Its_Way) {
   const struct {
     Play_Mode mode;
@@ -112,6 +122,8 @@ TEST_F(Sequencer_Test, Every_Way_To_Stop_Ends_Clock_And_Notes) {
   Seq_Stop_For_Tone_Menu();
   Seq_Stop_For_Setup();
   EXPECT_EQ(Sent(), Texts()) << "what does not run is not stopped";
+  Menu_MIDI_CloseOutput();
+  EXPECT_EQ(Sent().back(), "B0 7B 00");
 }
 
 TEST_F(Sequencer_Test, A_Start_That_Is_Refused_Springs_Back) {

@@ -56,6 +56,12 @@ TEST_F(Sequencer_Test, A_File_Is_Taken_As_It_Stands) {
     EXPECT_EQ(Seq_Base_Note, row.base_note);
     EXPECT_EQ(Seq_Range_Index, row.range) << row.base_note;
   }
+  Open_Window();
+  EXPECT_EQ(Sequencer.Seq_Range.index(), -1) << "a base note beyond the list leaves it blank";
+  desktop.Key('C');
+  Unload(Sequencer);
+  EXPECT_EQ(Seq_Base_Note, 84);
+  EXPECT_EQ(Seq_Range_Index, 5);
   desktop.Expect_Box(Answer::Ok, "File not found: c:\\gone.seq");
   Seq_Load("c:\\gone.seq", Load_Mode::Open);
 }

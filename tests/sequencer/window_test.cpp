@@ -60,6 +60,10 @@ TEST_F(Sequencer_Test, Keys_Play_Until_The_Right_Button) {
   desktop.Release(Sequencer.Seq_Keys[1]);
   EXPECT_EQ(Sequencer.Seq_Keys[1].picture(), Seq_Keys_Pics(1));
   desktop.Click(Sequencer.Seq_Keys[12], Right_Button);
+  MIDI_Enabled = 0;
+  for (Picture_Box* key : {&Sequencer.Seq_Keys[0], &Editor.Keys_Pic}) desktop.Click(*key);
+  desktop.Press(Sequencer.Seq_Matrix);
+  EXPECT_EQ(Editor.ED_Seq_Start_Pic.picture(), Start_Disabled);
   EXPECT_EQ(Sent(), (Texts{"90 31 7F", "B0 7B 00"}));
 }
 
