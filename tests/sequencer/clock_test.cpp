@@ -134,6 +134,8 @@ TEST_F(Sequencer_Test, A_Start_That_Is_Refused_Springs_Back) {
   MIDI_Enabled = 0;
   Open_Window();
   desktop.Click(Sequencer.Seq_Start);
+  Seq_Start_Play();
+  EXPECT_FALSE(MELVOR.Seq_Tmr.enabled());
   EXPECT_FALSE(Start_Is_Down() || Sequencer.Seq_Start.picture() == Button_Dn3D);
 }
 
