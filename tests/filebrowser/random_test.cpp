@@ -96,7 +96,7 @@ TEST_F(Random_Test, Any_Actions_Leave_Program_And_Files_Whole) {
     service.Take_Sent();
   }
   EXPECT_GT(openings, 100);
-  for (const auto& [name, bytes] : originals) EXPECT_EQ(root.Get("work/" + name), bytes) << name;
+  for (const auto& [name, bytes] : originals) ASSERT_EQ(root.Get("work/" + name), bytes) << name;
   MELVOR.Seq_Tmr.enabled = false;
   const auto hear = [&] {
     Unload(File_Dlg);
