@@ -1,4 +1,5 @@
-// The program with the Editor on the screen, and verbs for its elements.
+// The program with the Editor on the screen, and verbs for elements: those of the tone, unless a fixture says
+// otherwise.
 #pragma once
 
 #include <string>
@@ -11,16 +12,32 @@
 
 using Messages = std::vector<std::string>;
 
-// The message that sets one parameter of the tone, from parameter number and value.
-inline std::string Tone_Message(const std::string& number_and_value) {
-  return "F0 41 36 00 21 20 01 " + number_and_value + " F7";
-}
-
 inline std::string Numbers(std::initializer_list<int> numbers) {
   std::string text;
   for (const int number : numbers) text += (text.empty() ? "" : " ") + std::to_string(number);
   return text;
 }
+// Left and top.
+template <class Form_Or_Control>
+std::string Place_Of(const Form_Or_Control& thing) {
+  return Numbers({thing.left(), thing.top()});
+}
+
+struct Key_Row {
+  Picture_Box& element;
+  int index, before, key, after;
+  std::string place;  // of what moves
+  std::string shown;  // in the display; empty: the name is still there
+};
+
+struct Drag_Row {
+  Picture_Box& element;
+  int index;
+  float x, y;
+  int after;
+  bool is_sent;
+  std::string place;
+};
 
 struct Editor_Fixture : Program {
   Editor_Fixture() {
@@ -32,10 +49,17 @@ struct Editor_Fixture : Program {
     Active_Ctl = nullptr;
   }
 
-  // Puts a byte into the tone without anybody noticing, and the elements to their places.
+  virtual std::uint8_t& Byte(int index) { return Tone[index]; }
+  virtual std::string Head() { return "F0 41 36 00 21 20 01 "; }
+
+  std::string Message(int index, int value) {
+    return Head() + Hex_Text(std::string{static_cast<char>(index), static_cast<char>(value)}) + " F7";
+  }
+  // Stores a byte without anybody noticing, and the elements stand in their places.
   void Have(int index, int value) {
-    Tone[index] = static_cast<std::uint8_t>(value);
+    Byte(index) = static_cast<std::uint8_t>(value);
     Tone_Show();
+    if (Patch_Open == Flag_On) Patch_Show();
     Tone_Saved = Flag_True;
   }
   void Key_On(Picture_Box& element, int key) {
@@ -43,4 +67,33 @@ struct Editor_Fixture : Program {
     desktop.Key(key);
   }
   std::string Display() { return Editor.Tone_Name.text(); }
+
+  // Each row starts from its own byte, and every key sends.
+  void Expect_Keys(const std::vector<Key_Row>& rows) {
+    for (const Key_Row& row : rows) {
+      SCOPED_TRACE(std::string(row.element.name) + " from " + Numbers({row.before}) + " by " +
+                   Numbers({row.key}));
+      Have(row.index, row.before);
+      Key_On(row.element, row.key);
+      EXPECT_EQ(Byte(row.index), row.after);
+      EXPECT_EQ(Place_Of(*Active_Ctl), row.place);
+      EXPECT_EQ(Display(), row.shown);
+      EXPECT_EQ(Sent(), Messages{Message(row.index, row.after)});
+      EXPECT_EQ(Tone_Saved, Flag_False);
+    }
+  }
+  // Each row goes on from the one before; the move is from the place of the press or of the last move.
+  void Expect_Drags(const std::vector<Drag_Row>& rows) {
+    for (const Drag_Row& row : rows) {
+      SCOPED_TRACE(std::string(row.element.name) + " to " + std::to_string(row.after));
+      Set_Focus(row.element);
+      Tone_Saved = Flag_True;
+      desktop.Move(row.element, 90, 90, 0);  // without a button it is nothing
+      desktop.Move(row.element, row.x, row.y);
+      EXPECT_EQ(Byte(row.index), row.after);
+      EXPECT_EQ(Place_Of(*Active_Ctl), row.place);
+      EXPECT_EQ(Sent(), row.is_sent ? Messages{Message(row.index, row.after)} : Messages{});
+      EXPECT_EQ(Tone_Saved, Flag_False);
+    }
+  }
 };

@@ -50,26 +50,7 @@ struct Sequencer_Test : Program {
     Menu_MIDI_Seq();
     Sent();
   }
-  bool Ticking() const { return MELVOR.Seq_Tmr.enabled(); }
   bool Start_Is_Down() const { return Editor.ED_Seq_Start.picture() == Button_Dn3D; }
-
-  // Step s sounds with velocity s + 1 in its bottom row, so that what is played can be told from the bytes.
-  void Mark_Steps() {
-    for (int step = 0; step < 8; ++step)
-      Seq_Data[static_cast<std::size_t>(step * 13 + 12)] = static_cast<std::int16_t>(step + 1);
-    Seq_Saved = Flag_Off;
-  }
-  // The steps that the next ticks play.
-  std::vector<int> Play(int ticks) {
-    std::vector<int> steps;
-    for (int tick = 0; tick < ticks; ++tick) {
-      service.Take_Sent();
-      Seq_Tick();
-      EXPECT_EQ(service.Sent().size(), 13U);
-      steps.push_back(service.Sent().back().bytes.back() - 1);
-    }
-    return steps;
-  }
 
   Temporary_Root root;
 };
