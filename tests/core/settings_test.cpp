@@ -2,8 +2,8 @@
 
 #include "core/recent.h"
 #include "platform/profile_file.h"
-#include "platform/temporary_root.h"
 #include "support/program.h"
+#include "support/temporary_root.h"
 
 namespace {
 

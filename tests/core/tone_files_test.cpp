@@ -6,8 +6,8 @@
 #include "core/settings.h"
 #include "core/tone_commands.h"
 #include "platform/runtime_error.h"
-#include "platform/temporary_root.h"
 #include "support/program.h"
+#include "support/temporary_root.h"
 #include "windows/file_dlg_window.h"
 #include "windows/modal.h"
 

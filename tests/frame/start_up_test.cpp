@@ -4,7 +4,7 @@
 #include "core/settings.h"
 #include "platform/directories.h"
 #include "platform/profile_file.h"
-#include "platform/temporary_root.h"
+#include "support/temporary_root.h"
 #include "sequencer/model.h"
 #include "support/program.h"
 #include "windows/editor_window.h"
