@@ -35,8 +35,10 @@ TEST_F(File_Lists_Test, A_Directory_Shows_Its_Road_And_What_Lies_In_It) {
   EXPECT_EQ(Raised([&] { directories.Entry_Path(4); }), Error_Bad_Property_Value);
   directories.Set_Path("Bank A");
   EXPECT_EQ(directories.Entry_Path(3), "C:\\Tones\\Bank A\\Old");
-  directories.Set_Path("C:");
-  EXPECT_EQ(changes, 3);
+  directories.Select(0);
+  int space = Key::Space;
+  directories.on_key_press(space);
+  EXPECT_EQ(directories.path() + std::to_string(changes), "C:\\3");
   directories.Set_Path("C:\\");
   EXPECT_EQ(changes, 3) << "the same directory is no change";
   EXPECT_EQ(Raised([&] { directories.Set_Path("Tones\\plain"); }), Error_Path_Not_Found);

@@ -1,4 +1,4 @@
-// Windows: how they load, change and go, and what the user's keys do in them.
+// Windows: how they load, change and go, and what the user's keys and mouse do in them.
 #include "platform/form.h"
 
 #include <gtest/gtest.h>
@@ -19,6 +19,7 @@ struct Frame_Window : Form {
   Frame_Window() : Form(Form_Role::Frame, "frame") {
     on_query_unload = [](bool&) { story += "frame query, "; };
     on_unload = Told("frame unload");
+    on_click = Told("frame click");
     close.on_click = Told("close");
   }
   Menu_Item file{*this, "file", "&File"};
@@ -53,6 +54,8 @@ struct Dialog : Form {
   Text_Box text{*this, "text"};
   Command_Button ok{*this, "ok"};
   Command_Button cancel{*this, "cancel"};
+  Picture_Box button{*this, "button"};
+  Picture_Box symbol{button, "symbol"};
 };
 
 struct Forms : testing::Test {
@@ -170,6 +173,24 @@ TEST_F(Forms, Shortcuts_Act_Only_While_Their_Whole_Branch_Can_Be_Chosen) {
   frame.close.visible = false;
   desktop.Key('C', Ctrl_Key);
   EXPECT_EQ(Story(), "close, ");
+}
+
+TEST_F(Forms, A_Press_Goes_Through_A_Symbol_But_Not_To_What_Is_Disabled) {
+  one.symbol.left = 3;
+  one.symbol.mouse_through = true;
+  one.button.on_click = Told("click");
+  one.button.on_mouse_down = [](const Mouse_Event& event) {
+    story += "down " + std::to_string(static_cast<int>(event.x)) + ", ";
+  };
+  desktop.Click(one.symbol, Right_Button);
+  desktop.Double_Click(one.symbol);
+  EXPECT_EQ(Story(), "down 7, down 7, click, down 7, ") << "the second press counts, if it is not handled";
+  one.button.enabled = false;
+  desktop.Press(one.symbol);
+  EXPECT_EQ(Story(), "");
+  one.enabled = false;
+  desktop.Press(one.symbol);
+  EXPECT_EQ(Story(), "frame click, ");
 }
 
 }  // namespace
