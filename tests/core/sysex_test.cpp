@@ -36,6 +36,11 @@ TEST_F(SysEx, Messages_Follow_Channel_And_Instrument_And_Keep_What_Is_Unknown) {
                               "F0 41 36 0F 24 20 01 3A 7F F7", "F0 41 36 0F 24 20 01 3A 7F F7",
                               "F0 41 36 0F 21 30 01 06 40 F7"}));
   EXPECT_EQ(SysEx_APR_ToneB + SysEx_IPR_ToneB, "F0 41 35 F 24 20 02 F0 41 36 F 24 20 02 ");
+  Autosend = 0;
+  Tone_Param_Send(58);
+  Patch_Param_Send(6);
+  Tone_Name_Send();
+  EXPECT_TRUE(Sent().empty());
 }
 
 TEST_F(SysEx, The_Dump_Has_24_07_Where_An_F7_Would_Stand_And_The_Name_Ends_In_0F) {

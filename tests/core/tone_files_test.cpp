@@ -78,14 +78,11 @@ TEST_F(Tone_Files, What_A_File_Holds_Decides_What_Is_Taken) {
     int patch;
     const char* box;
   };
-  constexpr const char* No_Tone = "Wrong MIDI system exclusive data!";
   const std::string whole = Tone_Message(40) + Patch_Message(50);
   for (const Row& row :
-       {Row{"tone and patch", whole, 40, 50, ""},
-        Row{"tone behind noise: its patch is ignored", "noise" + whole, 40, 0, ""},
-        Row{"a foreign message hides the tone", Bytes_Of("F0 43 00 09 20 00 F7") + whole, 32, 0, No_Tone},
-        Row{"patch alone", Patch_Message(50), 32, 0, No_Tone},
-        Row{"MKS-70 head", Bytes_Of("F0 41 35 00 24 20 01") + std::string(60, 5), 32, 0, No_Tone},
+       {Row{"tone behind noise: its patch is ignored", "noise" + whole, 40, 0, ""},
+        Row{"a foreign message hides the tone", Bytes_Of("F0 43 00 09 20 00 F7") + whole, 32, 0,
+            "Wrong MIDI system exclusive data!"},
         Row{"beyond the reader's reach", std::string(40000, 'x') + whole, 32, 0, "Error 6: Overflow"}}) {
     Tone_Clear();
     const bool found = row.tone == 40;
