@@ -63,7 +63,14 @@ TEST_F(Tone_Files, A_Saved_File_Is_89_Bytes_For_Any_Instrument_And_Comes_Back_Th
   EXPECT_EQ(root.Get("b.syx~"), std::string(100, 'x'));
   Tone_Clear();
   Recent_Tones = {};
+  int shown = 0;
+  Patch_Shown = [&] { ++shown; };
+  Patch_Open = Flag_On;
+  Tone_Load("C:\\b.syx", Load_Mode::Soundcheck);
+  EXPECT_EQ(shown, 0) << "a preview leaves the open patch window alone";
   Tone_Load("C:\\b.syx", Load_Mode::Open);
+  EXPECT_EQ(shown, 1);
+  Patch_Shown = nullptr;
   EXPECT_EQ(Tone, tone);
   EXPECT_EQ(Patch_Rec, patch);
   EXPECT_EQ(Tone_File + Recent_Tones[0] + MELVOR.caption(), "C:\\b.syxC:\\b.syxMELVOR - C:\\B.SYX");
