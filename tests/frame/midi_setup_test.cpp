@@ -1,53 +1,34 @@
 #include "frame/midi_setup.h"
 
 #include "core/settings.h"
-#include "frame/start_up.h"
-#include "platform/directories.h"
+#include "core/sysex.h"
+#include "frame/whole_program.h"
 #include "platform/profile_file.h"
-#include "platform/temporary_root.h"
-#include "sequencer/model.h"
-#include "support/program.h"
-#include "windows/editor_window.h"
-#include "windows/midi_setup_window.h"
-#include "windows/modal.h"
 
 namespace {
 
-struct Setup : testing::Test {
+struct Setup : Whole_Program {
   Setup() {
-    Install_Midi_Service(&service);
-    Directories_Set("C:", root.host.string());
-    root.Put("MELVOR.FNT", "font");
-    root.Put("MELVOR.INI", "[MIDI]\nInput=Two\nOutput=Two\nChannel=3\n");
     service.Outputs({"One", "Two"});
     service.Inputs({"One", "Two"});
-    Start_Up();
-  }
-  ~Setup() override {
-    Tone_Saved = Flag_True;
-    Unload(MELVOR);
-    Install_Midi_Service(nullptr);
+    Start("[MIDI]\nInput=Two\nOutput=Two\nChannel=3\n");
   }
   void OK() {
     desktop.Expect_Box(Answer::Ok);
     User_Clicked(MIDI_Setup.Cmd_OK);
   }
-
-  Temporary_Root root;
-  Scripted_Desktop desktop;
-  Recording_Service service;
 };
 
-TEST_F(Setup, Shows_What_Is_Chosen_And_Keeps_MIDI_Shut) {
+TEST_F(Setup, Shows_What_Is_Chosen_Keeps_MIDI_Shut_And_Finds_What_Was_Plugged_In) {
   MIDI_SendNote(60, 1);
+  service.Outputs({"New", "One", "Two"});
   Menu_MIDI_Setup();
   EXPECT_FALSE(service.Out_Is_Open());
+  EXPECT_EQ(MIDI_Setup.Output_Devices.Count(), 3);
   EXPECT_EQ(MIDI_Setup.Output_Devices.Selected_Text(), "Two");
   EXPECT_EQ(MIDI_Setup.Channel.Selected_Text(), "3");
   EXPECT_EQ(MIDI_Setup.SynthesizerType.Selected_Text(), "JX-8P");
-  EXPECT_TRUE(MIDI_Setup.Enable.value());
-  EXPECT_FALSE(MELVOR.Menu_MIDI.enabled());
-  EXPECT_FALSE(Editor.enabled());
+  EXPECT_FALSE(MELVOR.Menu_MIDI.enabled() || Editor.enabled());
   const int nest = Dlg_Nest;
   Menu_MIDI_Setup();
   EXPECT_EQ(Dlg_Nest, nest);
@@ -58,9 +39,10 @@ TEST_F(Setup, Lists_Take_Effect_On_OK_And_Switches_At_Once) {
   User_Selected(MIDI_Setup.Output_Devices, 0);
   User_Selected(MIDI_Setup.Channel, 15);
   User_Checked(MIDI_Setup.AutoSend, false);
+  User_Checked(MIDI_Setup.AutoPlay, false);
   User_Selected(MIDI_Setup.SynthesizerType, 1);
   EXPECT_EQ(MIDI_Out_Device, 1);
-  EXPECT_EQ(Autosend, 0);
+  EXPECT_EQ(Autosend + Autoplay, 0);
   EXPECT_EQ(SysEx_IPR_Tone, "F0 41 36 2 24 20 01 ");
   OK();
   EXPECT_EQ(desktop.boxes[0].title, "MIDI System Exclusive enabled?");
@@ -73,12 +55,9 @@ TEST_F(Setup, Lists_Take_Effect_On_OK_And_Switches_At_Once) {
             "* Press WRITE button (display shows 'WRITTEN MIDI')\r"
             "* Protect the memory again (Set 'Protect' to 'ON')\r");
   EXPECT_EQ(MIDI_Out_Device, 0);
-  EXPECT_EQ(MIDI_Out_Name, "One");
-  EXPECT_EQ(MIDI_Channel, 16);
   EXPECT_EQ(Seq_Status, 0x9F);
   EXPECT_EQ(SysEx_IPR_Tone, "F0 41 36 F 24 20 01 ");
-  EXPECT_EQ(INI_Read("MIDI", "Output", ""), "One");
-  EXPECT_EQ(INI_Read("MIDI", "Channel", ""), "16");
+  EXPECT_EQ(INI_Read("MIDI", "Output", "") + INI_Read("MIDI", "Channel", ""), "One16");
   EXPECT_EQ(Active_Dlg, "");
   EXPECT_TRUE(MELVOR.Menu_MIDI.enabled());
 }
@@ -91,14 +70,12 @@ TEST_F(Setup, Escape_Writes_The_Lists_But_Leaves_The_Running_Program_Alone) {
   EXPECT_FALSE(MIDI_Setup.Loaded());
   EXPECT_EQ(MIDI_Out_Device, 1);
   EXPECT_EQ(MIDI_Channel, 3);
-  EXPECT_EQ(INI_Read("MIDI", "Output", ""), "One");
-  EXPECT_EQ(INI_Read("MIDI", "Channel", ""), "3");
+  EXPECT_EQ(INI_Read("MIDI", "Output", "") + INI_Read("MIDI", "Channel", ""), "One3");
 }
 
 TEST_F(Setup, An_Absent_Choice_Stops_OK_With_Its_Number) {
   MIDI_Out_Name = "Gone";
   Menu_MIDI_Setup();
-  EXPECT_EQ(MIDI_Setup.Output_Devices.index(), -1);
   desktop.Expect_Box(Answer::Ok, "Error 380: Invalid property value");
   User_Clicked(MIDI_Setup.Cmd_OK);
   EXPECT_TRUE(MIDI_Setup.Loaded());
@@ -109,34 +86,26 @@ TEST_F(Setup, An_Absent_Choice_Stops_OK_With_Its_Number) {
 
 TEST_F(Setup, Enable_Locks_And_Frees_What_Depends_On_It) {
   Menu_MIDI_Setup();
+  const auto usable = [] {
+    std::string switches;
+    for (const Control* control :
+         std::initializer_list<const Control*>{&MIDI_Setup.Input_Devices, &MIDI_Setup.Output_Devices,
+                                               &MIDI_Setup.AutoSend, &MIDI_Setup.AutoPlay}) {
+      switches += control->enabled() ? '1' : '0';
+    }
+    return switches + (MELVOR.Menu_Tone_Send.enabled() ? '1' : '0');
+  };
   User_Checked(MIDI_Setup.Enable, false);
   EXPECT_EQ(MIDI_Enabled, 0);
-  for (const Control* control : std::initializer_list<const Control*>{
-           &MIDI_Setup.Input_Devices, &MIDI_Setup.Output_Devices, &MIDI_Setup.AutoSend, &MIDI_Setup.AutoPlay}) {
-    EXPECT_FALSE(control->enabled()) << control->name;
-  }
-  EXPECT_FALSE(MELVOR.Menu_Tone_Send.enabled());
+  EXPECT_EQ(usable(), "00000");
   service.Outputs({});
   User_Checked(MIDI_Setup.Enable, true);
-  EXPECT_TRUE(MELVOR.Menu_Tone_Receive.enabled());
-  EXPECT_TRUE(MIDI_Setup.Input_Devices.enabled());
-  EXPECT_FALSE(MIDI_Setup.Output_Devices.enabled());
+  EXPECT_EQ(usable(), "10111");
   service.Outputs({"One", "Two"});
 }
 
-TEST_F(Setup, Devices_Plugged_In_Later_Are_Found_And_The_Chosen_One_Keeps_Its_Name) {
-  service.Outputs({"New", "One", "Two"});
-  Menu_MIDI_Setup();
-  EXPECT_EQ(MIDI_Setup.Output_Devices.Count(), 3);
-  EXPECT_EQ(MIDI_Setup.Output_Devices.Selected_Text(), "Two");
-  EXPECT_TRUE(desktop.boxes.empty());
-}
-
 TEST_F(Setup, Opening_It_Stops_The_Sequencer_And_Closing_It_Brings_The_Element_Back) {
-  Set_Focus(Editor.VCF_Res);
-  Seq_Data[0] = 127;
-  Seq_Saved = Flag_Off;
-  desktop.Click(Editor.ED_Seq_Start);
+  Play();
   Set_Focus(Editor.VCF_Res);
   Menu_MIDI_Setup();
   EXPECT_EQ(Seq_Running, Flag_Off);
@@ -144,7 +113,6 @@ TEST_F(Setup, Opening_It_Stops_The_Sequencer_And_Closing_It_Brings_The_Element_B
   desktop.Key(Key::Escape);
   EXPECT_EQ(Focused_Control(), &Editor.VCF_Res);
   EXPECT_TRUE(Editor.Timer1.enabled());
-  Seq_Saved = Flag_On;
 }
 
 TEST_F(Setup, A_Wait_Ends_With_The_Window_Or_With_The_Program) {

@@ -1,65 +1,32 @@
-#include "frame/start_up.h"
-
-#include "core/recent.h"
+// The frame: how the program starts and closes.
 #include "core/settings.h"
-#include "platform/directories.h"
-#include "platform/profile_file.h"
-#include "platform/temporary_root.h"
-#include "sequencer/model.h"
-#include "support/program.h"
-#include "windows/editor_window.h"
-#include "windows/midi_setup_window.h"
-#include "windows/modal.h"
+#include "core/sysex.h"
+#include "frame/whole_program.h"
+#include "windows/patch_window.h"
+#include "windows/sequencer_window.h"
 
 namespace {
 
-constexpr const char* Configured = "[MIDI]\nInput=JX-8P\nOutput=JX-8P\n";
+using Frame = Whole_Program;
 
-// The whole program from its settings file to its end.
-struct Run : testing::Test {
-  Run() {
-    Install_Midi_Service(&service);
-    MIDI_Enabled = 0;
-    Directories_Set("C:", root.host.string());
-    root.Put("MELVOR.FNT", "font");
-  }
-  ~Run() override {
-    Tone_Saved = Flag_True;
-    Seq_Saved = Flag_On;
-    Unload(MELVOR);
-    Install_Midi_Service(nullptr);
-  }
-  bool Start(const std::string& settings = Configured) {
-    root.Put("MELVOR.INI", settings);
-    return Start_Up();
-  }
-
-  Temporary_Root root;
-  Scripted_Desktop desktop;
-  Recording_Service service;
-};
-
-TEST_F(Run, A_Configured_Start_Shows_The_Editor_And_Sends_Nothing) {
+TEST_F(Frame, A_Configured_Start_Shows_The_Editor_And_Sends_Nothing) {
   ASSERT_TRUE(Start());
-  EXPECT_TRUE(Editor.visible());
+  EXPECT_EQ(Active_Form(), &Editor);
   EXPECT_EQ(Editor.width(), 528 * 15);
   EXPECT_EQ(Editor.height(), 456 * 15);
-  EXPECT_EQ(Active_Form(), &Editor);
-  EXPECT_EQ(MELVOR.caption(), "MELVOR");
   EXPECT_EQ(Tone[13], 56);
-  EXPECT_EQ(Tone_Saved, Flag_True);
-  EXPECT_EQ(Seq_Saved, Flag_On);
-  EXPECT_EQ(Editor.VCF_CutoffF.top(), 112);
+  EXPECT_TRUE(Tone_Saved == Flag_True && Seq_Saved == Flag_On);
   EXPECT_TRUE(service.Sent().empty());
   EXPECT_FALSE(service.Out_Is_Open());
 }
 
-TEST_F(Run, Only_Two_Densities_Are_Known) {
+TEST_F(Frame, Only_Two_Densities_Are_Known) {
   desktop.pixels_per_inch = 144;
-  desktop.Expect_Box(Answer::Ok,
-                     "Unsupported system font size: 144 ppi (pixel per inch).\rPlease set the font size to 'small "
-                     "fonts' (96 ppi) or 'large fonts (120 ppi).\r\rFor additional informations, see the README.TXT "
-                     "file.");
+  desktop.Expect_Box(
+      Answer::Ok,
+      "Unsupported system font size: 144 ppi (pixel per inch).\rPlease set the font size to 'small "
+      "fonts' (96 ppi) or 'large fonts (120 ppi).\r\rFor additional informations, see the README.TXT "
+      "file.");
   EXPECT_FALSE(Start());
   EXPECT_EQ(desktop.boxes[0].style, Box_Stop);
   EXPECT_FALSE(Editor.Loaded());
@@ -68,42 +35,37 @@ TEST_F(Run, Only_Two_Densities_Are_Known) {
   EXPECT_EQ(Editor.width(), 528 * 12);
 }
 
-TEST_F(Run, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Load) {
+TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Load) {
   desktop.Expect_Box(Answer::Ok, "MIDI output device not configured - starting MIDI setup.");
   desktop.Expect_Box(Answer::Ok, "MIDI input device (Gone) not available - starting MIDI setup.");
-  ASSERT_TRUE(Start("[MIDI]\nInput=Gone\nChannel=-5\n"));
+  ASSERT_TRUE(Start("[MIDI]\nInput=Gone\nChannel=5\n"));
   EXPECT_TRUE(MIDI_Setup.visible());
-  EXPECT_EQ(Active_Dlg, "MIDI_Setup");
-  EXPECT_EQ(MIDI_Channel, 5);
   EXPECT_EQ(SysEx_IPR_Tone, "F0 41 36 4 21 20 01 ") << "the load went on behind the window";
 }
 
-TEST_F(Run, Without_Any_Device_The_Program_Runs_On_Its_Own) {
+TEST_F(Frame, Without_Any_Device_The_Program_Runs_On_Its_Own) {
   service.Outputs({});
   service.Inputs({});
   desktop.Expect_Box(Answer::Ok, "No MIDI output device installed. MIDI functions disabled");
   desktop.Expect_Box(Answer::Ok, "No MIDI input device installed. MIDI functions disabled");
   ASSERT_TRUE(Start());
-  EXPECT_FALSE(MELVOR.Menu_MIDI.enabled());
-  EXPECT_FALSE(MELVOR.Menu_Tone_Send.enabled());
+  EXPECT_FALSE(MELVOR.Menu_MIDI.enabled() || MELVOR.Menu_Tone_Send.enabled());
   desktop.Key(Key::Home);
   EXPECT_EQ(Tone[11], 127);
 }
 
-TEST_F(Run, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
-  std::string sequence = "SEQ1" + std::string(106, '\0');
-  sequence[4] = 60;
-  sequence[6] = 127;
-  root.Put("a.seq", sequence);
-  ASSERT_TRUE(Start(std::string(Configured) + "Sequence Preload=1\n[Recent Files]\nSequence1=C:\\A.SEQ\n"));
+TEST_F(Frame, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
+  const std::string preload = std::string(Configured) + "Sequence Preload=1\n";
+  root.Put("a.seq", "SEQ1" + Bytes_Of("3C 30 7F") + std::string(103, '\0'));
+  ASSERT_TRUE(Start(preload + "[Recent Files]\nSequence1=C:\\A.SEQ\n"));
   EXPECT_EQ(Seq_Data[0], 127);
   EXPECT_EQ(Seq_Speed, 60);
   Unload(MELVOR);
-  ASSERT_TRUE(Start(std::string(Configured) + "Sequence Preload=1\n"));
+  ASSERT_TRUE(Start(preload));
   EXPECT_EQ(Seq_Data[0], 0);
 }
 
-TEST_F(Run, The_Display_Returns_To_The_Name_And_The_Panel_Blinks) {
+TEST_F(Frame, The_Display_Returns_To_The_Name_And_The_Panel_Blinks) {
   ASSERT_TRUE(Start());
   Tone_Name_Str = "NAME";
   desktop.Drag(Editor.VCF_CutoffF, {-10});
@@ -115,7 +77,7 @@ TEST_F(Run, The_Display_Returns_To_The_Name_And_The_Panel_Blinks) {
   EXPECT_NE(Editor.VCF_CutoffF.picture().name, lit.name);
 }
 
-TEST_F(Run, A_Click_On_The_Frame_Sounds_Only_While_A_Window_Holds_The_Program) {
+TEST_F(Frame, A_Click_On_It_Sounds_Only_While_A_Window_Holds_The_Program) {
   ASSERT_TRUE(Start());
   Form_Pressed(MELVOR);
   EXPECT_TRUE(desktop.sounds.empty());
@@ -128,7 +90,7 @@ TEST_F(Run, A_Click_On_The_Frame_Sounds_Only_While_A_Window_Holds_The_Program) {
   EXPECT_EQ(Tone_Saved, Flag_True);
 }
 
-TEST_F(Run, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
+TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
   struct Row {
     Answer tone;
     Answer sequence;
@@ -137,42 +99,50 @@ TEST_F(Run, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
   for (const Row& row : {Row{Answer::Cancel, Answer::No, false}, Row{Answer::No, Answer::Cancel, false},
                          Row{Answer::No, Answer::No, true}}) {
     ASSERT_TRUE(Start());
+    for (Menu_Item* item : {&MELVOR.Menu_MIDI_Seq, &MELVOR.Menu_Tone_Patch}) desktop.Choose_Menu(*item);
     Tone_Saved = Flag_False;
     Seq_Saved = Flag_Off;
     desktop.Expect_Box(row.tone, "Save actual TONE first?");
     desktop.Expect_Box(row.sequence, "Save actual SEQUENCE first?");
     EXPECT_EQ(Unload(MELVOR), row.closes);
+    EXPECT_FALSE(Sequencer.Loaded() || Patch.Loaded());
   }
   EXPECT_TRUE(desktop.quit);
 }
 
-TEST_F(Run, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
+TEST_F(Frame, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
   ASSERT_TRUE(Start());
-  Seq_Data[0] = 127;
-  Seq_Saved = Flag_Off;
-  desktop.Click(Editor.ED_Seq_Start);
-  EXPECT_EQ(Seq_Running, Flag_On);
+  Play();
   service.Take_Hex();
   desktop.Expect_Box(Answer::Cancel, "Save actual SEQUENCE first?");
   EXPECT_FALSE(Unload(MELVOR));
-  EXPECT_EQ(service.Take_Hex(), std::vector<std::string>{"B0 7B 00"});
   desktop.Advance_ms(1000);
-  EXPECT_TRUE(service.Take_Hex().empty());
+  EXPECT_EQ(service.Take_Hex(), std::vector<std::string>{"B0 7B 00"});
   EXPECT_EQ(Seq_Running, Flag_Off);
 }
 
-TEST_F(Run, A_Signal_Ends_It_In_Order_Without_Questions) {
+TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {
   ASSERT_TRUE(Start());
-  Tone_Saved = Flag_False;
-  Seq_Data[0] = 127;
-  Seq_Saved = Flag_Off;
-  desktop.Click(Editor.ED_Seq_Start);
-  service.Take_Hex();
-  End_Without_Questions();
-  EXPECT_FALSE(MELVOR.Loaded());
-  EXPECT_FALSE(service.Out_Is_Open());
-  EXPECT_EQ(service.Take_Hex().front(), "B0 7B 00");
-  EXPECT_NE(root.Get("MELVOR.INI").find("[Main Window]"), std::string::npos);
+  struct Row {
+    int density;
+    int screen_height;
+    int width;
+    int height;
+  };
+  desktop.Expect_Box(Answer::No, "Do you really want to RESET the window settings?");
+  desktop.Choose_Menu(MELVOR.Menu_Windows_Reset);
+  for (const Row& row : {Row{96, 1024, 540, 506}, Row{120, 1024, 540, 516}, Row{120, 480, 556, 440}}) {
+    System_PPI = desktop.pixels_per_inch = row.density;
+    desktop.screen.height = row.screen_height;
+    MELVOR.state = Window_State::Maximized;
+    Seq_Left = 500;
+    desktop.Expect_Box(Answer::Yes);
+    desktop.Choose_Menu(MELVOR.Menu_Windows_Reset);
+    EXPECT_EQ(MELVOR.width() / Twips_Per_Pixel(), row.width);
+    EXPECT_EQ(MELVOR.height() / Twips_Per_Pixel(), row.height);
+    EXPECT_EQ(MELVOR.state(), Window_State::Normal);
+    EXPECT_EQ(Seq_Left, 1);
+  }
 }
 
 }  // namespace

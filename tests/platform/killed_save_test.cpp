@@ -12,7 +12,7 @@
 #include <map>
 
 #include "platform/files.h"
-#include "platform/temporary_root.h"
+#include "support/temporary_root.h"
 
 namespace {
 
