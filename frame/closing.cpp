@@ -57,12 +57,19 @@ void Frame_Unload() {
 
 }  // namespace
 
+bool End_Wanted = false;
+
 void Closing_Wire() {
   MELVOR.on_query_unload = Frame_Query;
   MELVOR.on_unload = Frame_Unload;
 }
 
 void End_Without_Questions() {
+  The_Desktop().Quit();  // from now on boxes answer themselves, the one that is open too
+  if (Starting_Up) {
+    End_Wanted = true;
+    return;
+  }
   Tone_Saved = Flag_True;
   Seq_Saved = Flag_On;
   Unload(MELVOR);

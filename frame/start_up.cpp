@@ -120,6 +120,8 @@ void Frame_Load() {
 
 }  // namespace
 
+bool Starting_Up = false;
+
 bool Start_Up() {
   for (void (*wire)() :
        {Editor_Wire, Tone_Name_Wire, Input_Box_Wire, Patch_Wire, MKS70_Wire, Seq_Editor_Wire, Seq_Window_Wire,
@@ -130,6 +132,9 @@ bool Start_Up() {
   MELVOR.on_click = Frame_Click;
   MELVOR.MidiNotifyControl.on_change = MIDI_In_Poll;
   MELVOR.Timer_Display.on_tick = Timer_Display_Tick;
+  Starting_Up = true;
   Show(MELVOR);
-  return MELVOR.Loaded();
+  Starting_Up = false;
+  if (End_Wanted) End_Without_Questions();
+  return MELVOR.Loaded() || End_Wanted;
 }
