@@ -14,20 +14,11 @@ def instrument_tone(name, cutoff):
     return bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + b"\xF7", record
 
 
-def turn_on(screen):
-    """The setup window opens the menu's item."""
-    screen.menu("MIDI", "Setup...")
-    screen.wait_for("OK")
-    screen.key("Return")
-    assert screen.box().startswith("Please don't forget to enable the MIDI System Exclusive (SysEx)")
-    screen.answer("OK")
-
-
 def main():
     with Session("receive") as session:
         screen, wire = session.screen, session.wire
         message, record = instrument_tone("SOLO LEAD", 100)
-        turn_on(screen)
+        session.confirm_setup()
         screen.menu("Tone", "Receive ")
         wait_until(lambda: not screen.is_enabled("File"), "the wait for a tone")
         session.screenshot("waiting")

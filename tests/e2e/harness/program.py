@@ -11,6 +11,8 @@ from harness.wire import Wire
 
 Panel = "VCF cutoff frequency"  # an element that is there as soon as the panel is
 
+Reminder = "Please don't forget to enable the MIDI System Exclusive (SysEx)"
+
 # A frame with room for every window beside the panel.
 Wide_frame = {
     "Main Window": {"Width": "1240", "Height": "960"},
@@ -95,6 +97,14 @@ class Session:
             active = ("xdotool", "getactivewindow", "getwindowpid")
             wait_until(lambda: (self.machine.run(*active) or "").strip() == str(self.process.pid),
                        "the program's window in front")
+
+    def confirm_setup(self):
+        """The setup window turns the menu's Receive on."""
+        self.screen.menu("MIDI", "Setup...")
+        self.screen.wait_for("OK")
+        self.screen.key("Return")
+        assert self.screen.box().startswith(Reminder)
+        self.screen.answer("OK")
 
     def screenshot(self, station):
         folder = pathlib.Path(os.environ["SCREENSHOTS"])

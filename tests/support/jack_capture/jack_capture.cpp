@@ -2,9 +2,9 @@
 //
 // Writes every event that comes to its MIDI port NAME:in as a line "microseconds hex hex ..." to FILE, at
 // once. Each line of hexadecimal bytes on standard input leaves NAME:out as one event. Prints "ready" once it
-// runs. Ends by a signal, with code 2 if the server dies, with 1 if none runs.
+// runs. Ends with SIGTERM, with code 2 if the server dies, with 1 if none runs.
 #include <chrono>
-#include <cstdio>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
@@ -15,13 +15,15 @@
 
 namespace {
 constexpr std::chrono::milliseconds Look_Again(5);
-}
+volatile std::sig_atomic_t stopped = 0;
+}  // namespace
 
 int main(int count, char** values) {
   if (count != 3) {
     std::cerr << "usage: jack_capture FILE NAME\n";
     return 1;
   }
+  std::signal(SIGTERM, [](int) { stopped = 1; });
   std::ofstream file(values[1]);
   Jack_Peer peer(values[2]);
   if (!file || !peer.Is_Open()) {
@@ -32,12 +34,13 @@ int main(int count, char** values) {
   std::thread([&peer] {
     for (std::string line; std::getline(std::cin, line);) peer.Send(Bytes_Of(line));
   }).detach();
-  for (bool dead = false; !dead;) {
-    dead = peer.Is_Dead();
+  while (stopped == 0 && !peer.Is_Dead()) {
+    std::this_thread::sleep_for(Look_Again);
     for (const Jack_Event& event : peer.Take_Events())
       file << event.time_us << ' ' << Hex_Text(event.bytes) << '\n';
     file.flush();
-    std::this_thread::sleep_for(Look_Again);
   }
-  std::_Exit(2);  // the reader still waits
+  const int code = peer.Is_Dead() ? 2 : 0;
+  peer.Close();      // a server waits long for a client that only vanishes
+  std::_Exit(code);  // the reader still waits
 }

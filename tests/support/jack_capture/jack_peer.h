@@ -32,12 +32,13 @@ struct Jack_Peer {
     jack_on_shutdown(client_, Die, this);
     jack_activate(client_);
   }
-  ~Jack_Peer() {
-    if (client_ != nullptr) jack_client_close(client_);
-  }
+  ~Jack_Peer() { Close(); }
   Jack_Peer(const Jack_Peer&) = delete;
   Jack_Peer& operator=(const Jack_Peer&) = delete;
 
+  void Close() {
+    if (client_ != nullptr) jack_client_close(std::exchange(client_, nullptr));
+  }
   bool Is_Open() const { return client_ != nullptr; }  // false: no server runs
   bool Is_Dead() const { return dead_; }               // the server has gone
   unsigned Periods() const { return periods_; }
