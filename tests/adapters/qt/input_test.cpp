@@ -9,30 +9,6 @@
 
 namespace {
 
-TEST_F(Desk, A_Press_Catches_The_Mouse_In_The_Pixels_Of_Its_Control) {
-  std::vector<Mouse_Event> seen;
-  knob.on_mouse_down = knob.on_mouse_move =
-      knob.on_mouse_up = [&](const Mouse_Event& event) { seen.push_back(event); };
-  lever.on_mouse_move = [&](const Mouse_Event&) { Note("the lever was not pressed"); };
-  knob.on_click = [&] { Note("released outside"); };
-  Show_Windows();
-  QWidget& widget = Widget("Knob");
-  Move(widget, {3, 4});
-  seen.clear();
-  Press(widget, {3, 4});
-  Press(widget, {3, 4}, Qt::RightButton);
-  Move(widget, {55, -20});
-  Await([&] { return seen.size() == 3; });
-  Release(widget, {55, -20}, Qt::RightButton);
-  Release(widget, {55, -20});
-  ASSERT_EQ(seen.size(), 5u);
-  const int buttons[] = {Left_Button, Right_Button, Left_Button + Right_Button, Right_Button, Left_Button};
-  for (std::size_t i = 0; i < seen.size(); ++i) EXPECT_EQ(seen[i].button, buttons[i]) << i;
-  EXPECT_FLOAT_EQ(seen[2].x, 55);
-  EXPECT_FLOAT_EQ(seen[2].y, -20);
-  EXPECT_EQ(log, Texts());
-}
-
 TEST_F(Desk, A_Control_That_Moves_Away_Under_A_Resting_Pointer_Is_Driven_To_It) {
   knob.on_mouse_move = [&](const Mouse_Event& event) {
     if (event.button != 0) knob.top = knob.top() + static_cast<int>(event.y / 2);
@@ -144,26 +120,6 @@ TEST_F(Desk, A_Key_That_Is_Taken_Does_Not_Reach_The_Text_Field) {
   Type(Qt::Key_N, Qt::ControlModifier);
   EXPECT_EQ(log, (Texts{"c", "new"}));
   EXPECT_EQ(text.selection_start(), 1);
-}
-
-TEST_F(Desk, Default_Buttons_And_Access_Keys_Work_Once_By_The_Program_Alone) {
-  Command_Button ok(panel, "Ok");
-  ok.caption = std::string("&Ok");
-  ok.Place(10, 10, 60, 24);
-  ok.tab_index = 3;
-  ok.is_default = true;
-  ok.on_click = [&] { Note("ok"); };
-  menu_file.on_click = [&] { Note("menu"); };
-  Show_Windows();
-  Type(Qt::Key_Return);
-  EXPECT_EQ(Focused_Control(), &knob);
-  Type(Qt::Key_O, Qt::AltModifier);
-  Type(Qt::Key_Space);
-  Type(Qt::Key_F, Qt::AltModifier);
-  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-  QApplication::activePopupWidget()->close();
-  EXPECT_EQ(log, (Texts{"ok", "ok", "ok", "menu"}));
-  EXPECT_EQ(Focused_Control(), &ok) << "a menu takes no focus from the program";
 }
 
 TEST_F(Desk, What_The_Program_Sets_Comes_Back_As_No_Users_Action) {

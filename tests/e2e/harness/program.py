@@ -1,5 +1,6 @@
 """The program itself, from its start to its end."""
 
+import configparser
 import os
 import pathlib
 import signal
@@ -19,6 +20,12 @@ Wide_frame = {
     "Windows": {"Save Positions": "1", "Sequencer Left": "540", "Sequencer Top": "0", "Patch Left": "540",
                 "Patch Top": "250", "File Dialog Left": "540", "File Dialog Top": "440"},
 }
+
+
+def _parser():
+    parser = configparser.ConfigParser(delimiters="=", interpolation=None)
+    parser.optionxform = str
+    return parser
 
 
 class Session:
@@ -66,25 +73,18 @@ class Session:
         return pathlib.Path(self.machine.environment["XDG_CONFIG_HOME"]) / "melvor" / "MELVOR.INI"
 
     def write_settings(self):
-        sections = {section: dict(keys) for section, keys in {**Wide_frame, **self._settings}.items()}
+        sections = _parser()
+        sections.read_dict({**Wide_frame, **self._settings})
         if self._configured:
-            sections.setdefault("MIDI", {}).update({"Output": "synth:in", "Input": "synth:out"})
+            sections.read_dict({"MIDI": {"Output": "synth:in", "Input": "synth:out"}})
         self.settings_file.parent.mkdir(exist_ok=True)
-        lines = []
-        for section, keys in sections.items():
-            lines.append(f"[{section}]")
-            lines += [f"{key}={value}" for key, value in keys.items()]
-        self.settings_file.write_text("\r\n".join(lines) + "\r\n")
+        with open(self.settings_file, "w", newline="\r\n") as file:
+            sections.write(file, space_around_delimiters=False)
 
     def settings(self):
-        """The settings file as {section: {key: text}}."""
-        sections = {}
-        for line in self.settings_file.read_text().splitlines():
-            if line.startswith("["):
-                keys = sections.setdefault(line.strip("[]"), {})
-            elif "=" in line:
-                key, value = line.split("=", 1)
-                keys[key] = value
+        """The settings file as sections of keys."""
+        sections = _parser()
+        sections.read(self.settings_file)
         return sections
 
     def start(self, wait_for_panel=True):
