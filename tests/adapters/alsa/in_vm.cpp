@@ -57,6 +57,7 @@ struct Software_Rig final : Alsa_Rig {
     return bytes;
   }
   void Unplug() override {
+    EXPECT_TRUE(Await([this] { return !Read().empty(); }));  // nothing under way could find out
     snd_seq_delete_simple_port(listener_, port_);
     EXPECT_TRUE(Await([&] { return Send_Long(service, 1, {}) != Midi_Ok; }));
   }

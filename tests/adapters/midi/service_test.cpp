@@ -169,10 +169,14 @@ TEST_F(Service_Test, Messages_Of_A_Closed_Or_Stopped_Input_Are_Dropped) {
     Receive(message);
   }
   desktop.Run_Posts();  // the message comes after the close: the receiver is gone, as is its list
+  MIDI_Header header;
+  header.buffer_length = 10;
   Test_Input input(service, 0);
   Receive(message);
   EXPECT_EQ(service.In_Reset(input.handle), Midi_Ok);
   Receive(message);
+  EXPECT_EQ(service.In_Prepare(input.handle, header), Midi_Ok);
+  EXPECT_EQ(service.In_Add_Buffer(input.handle, header), Midi_Ok);
   EXPECT_EQ(service.In_Start(input.handle), Midi_Ok);
   desktop.Run_Posts();
   EXPECT_TRUE(input.received.empty());
