@@ -30,9 +30,6 @@ void* operator new(std::size_t size) {
 void operator delete(void* block) noexcept { std::free(block); }
 void operator delete(void* block, std::size_t) noexcept { std::free(block); }
 
-Bench_Desktop::Bench_Desktop() { Install_Desktop(this); }
-Bench_Desktop::~Bench_Desktop() { Install_Desktop(nullptr); }
-
 void Bench_Desktop::End_Event() {
   for (Component* component : changed_) component->Shown();
   changed_.clear();

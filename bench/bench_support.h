@@ -6,35 +6,17 @@
 #include <cstddef>
 #include <vector>
 
-#include "platform/desktop.h"
 #include "platform/midi_service.h"
+#include "support/still_desktop.h"
 
-// Shows nothing; counts every view as up to date at the end of an event, which End_Event stands for.
-struct Bench_Desktop final : Desktop {
-  Bench_Desktop();
-  ~Bench_Desktop() override;
-
+// Counts every view as up to date at the end of an event, which End_Event stands for.
+struct Bench_Desktop final : Still_Desktop {
   void End_Event();
 
   Answer Message_Box(std::string_view text, int style, std::string_view title) override;
   void Run_Events(Event_Set) override { End_Event(); }
-  void Wait_Events() override {}
-  void Quit() override {}
-  void Beep() override {}
-  bool Play_System_Sound(std::string_view) override { return true; }
-  Size_px Screen_Size() override { return {1280, 1024}; }
-  int Pixels_Per_Inch() override { return 96; }
-  bool Add_Font(std::string_view) override { return true; }
-  int Remove_Font(std::string_view) override { return 0; }
-  void Form_Loaded(Form&) override {}
-  void Form_Unloaded(Form&) override {}
-  void Bring_To_Front(Form&) override {}
-  void Show_Focus(Form&, Control*) override {}
   void Changed(Component& component) override { changed_.push_back(&component); }
   void Forget(Component& component) override { std::erase(changed_, &component); }
-  std::int64_t Now_us() override { return 0; }
-  void Wake_At_us(std::int64_t) override {}
-  void Post(std::function<void()> fn) override { fn(); }
 
  private:
   std::vector<Component*> changed_;

@@ -8,42 +8,21 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/desktop.h"
 #include "platform/drives.h"
+#include "support/still_desktop.h"
 
 inline void Require(bool holds) {
   if (!holds) std::abort();
 }
 
 // Only boxes come up: no window is open.
-struct Box_Counter final : Desktop {
-  Box_Counter() { Install_Desktop(this); }
-  ~Box_Counter() override { Install_Desktop(nullptr); }
-
+struct Box_Counter final : Still_Desktop {
   int boxes = 0;
 
   Answer Message_Box(std::string_view, int, std::string_view) override {
     ++boxes;
     return Answer::Ok;
   }
-  void Run_Events(Event_Set) override {}
-  void Wait_Events() override {}
-  void Quit() override {}
-  void Beep() override {}
-  bool Play_System_Sound(std::string_view) override { return true; }
-  Size_px Screen_Size() override { return {1280, 1024}; }
-  int Pixels_Per_Inch() override { return 96; }
-  bool Add_Font(std::string_view) override { return true; }
-  int Remove_Font(std::string_view) override { return 0; }
-  void Form_Loaded(Form&) override {}
-  void Form_Unloaded(Form&) override {}
-  void Bring_To_Front(Form&) override {}
-  void Show_Focus(Form&, Control*) override {}
-  void Changed(Component&) override {}
-  void Forget(Component&) override {}
-  std::int64_t Now_us() override { return 0; }
-  void Wake_At_us(std::int64_t) override {}
-  void Post(std::function<void()> fn) override { fn(); }
 };
 
 // A file in memory, which the loader opens by its descriptor: a disk would cost more than everything that is

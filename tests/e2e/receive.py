@@ -14,20 +14,10 @@ def instrument_tone(name, cutoff):
     return bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + b"\xF7", record
 
 
-def turn_on(screen, device=None):
-    """The setup window opens the menu's item."""
-    screen.menu("MIDI", "Setup...")
-    screen.wait_for("OK")
-    if device:
-        screen.choose("synth:out", device)
-    screen.key("Return")
-    assert screen.box().startswith("Please don't forget to enable the MIDI System Exclusive (SysEx)")
-    screen.answer("OK")
-
-
-def from_the_built_in_instrument(screen):
+def from_the_built_in_instrument(session):
     """It has no tone buttons, and sends its tone as soon as the program listens."""
-    turn_on(screen, "Built-in JX-8P")
+    screen = session.screen
+    session.confirm_setup([("MIDI input device", "Built-in JX-8P")])
     screen.menu("Tone", "Receive ")
     wait_until(lambda: screen.text("Tone name").rstrip() == "BUILT-IN", "the built-in instrument's tone")
     wait_until(lambda: screen.is_enabled("File"), "the end of the wait")
@@ -37,7 +27,7 @@ def main():
     with Session("receive") as session:
         screen, wire = session.screen, session.wire
         message, record = instrument_tone("SOLO LEAD", 100)
-        turn_on(screen)
+        session.confirm_setup()
         screen.menu("Tone", "Receive ")
         wait_until(lambda: not screen.is_enabled("File"), "the wait for a tone")
         session.screenshot("waiting")
@@ -64,7 +54,7 @@ def main():
         wire.expect(All_notes_off)
         # A value that the display still shows goes after a second.
         wait_until(lambda: screen.text("Tone name") == "SOLO LEAD", "the tone that came in time")
-        from_the_built_in_instrument(screen)
+        from_the_built_in_instrument(session)
         assert session.interrupt() == 0
 
 

@@ -4,15 +4,17 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <condition_variable>
 #include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
+#include <vector>
 
-#include "platform/desktop.h"
 #include "platform/midi_service.h"
+#include "support/still_desktop.h"
 
 // A service, and what stands at the other end of one of its outputs.
 struct Midi_Rig {
@@ -39,11 +41,12 @@ struct Midi_Rig_Test : testing::TestWithParam<Rig_Maker> {
   void SetUp() override;
   void TearDown() override;
 
-  int Long(const Byte_String& bytes);  // prepare, send, unprepare; the code of the send
-  int Short(std::uint32_t message);
+  int Long(const Byte_String& bytes);
+  int Short(std::uint32_t message) { return rig->Service().Out_Short(handle, message); }
   // Hands the message over again until it is not answered with 67.
   void Send(const Byte_String& bytes);
-  int Close();  // until it is not answered with 65
+  void Close();
+  void Expect(const Byte_String& bytes);  // at the other end
 
   std::unique_ptr<Midi_Rig> rig;
   std::int32_t handle = -1;
@@ -57,39 +60,29 @@ struct Midi_Unplug_Contract : Midi_Rig_Test {};  // where the device can be take
   INSTANTIATE_TEST_SUITE_P(Over, suite, testing::Values(__VA_ARGS__), \
                            [](const testing::TestParamInfo<Rig_Maker>& info) { return info.param.name; })
 
+// 90 bytes: a message whose first half a second F0 ends. number: of the tone in it.
+Byte_String Dump_Message(int number);
+// 28 bytes: ends without F7.
+Byte_String Name_Message();
+
 // The output's or input's number by its name; -1: not listed.
 int Find_Output(Midi_Service& service, const std::string& name);
 int Find_Input(Midi_Service& service, const std::string& name);
 
+// Prepares, sends, unprepares; the code of the sending.
+int Send_Long(Midi_Service& service, std::int32_t handle, const Byte_String& bytes);
+// Asks until the answer is not 65.
+int Close_Output(Midi_Service& service, std::int32_t handle);
+
 // Waits until the condition holds, for up to 20 s. False: it never did.
 bool Await(const std::function<bool()>& condition);
 
-// A desktop that can do nothing but take posts from other threads. Installs itself while it lives.
-struct Post_Desktop final : Desktop {
-  Post_Desktop() { Install_Desktop(this); }
-  ~Post_Desktop() override { Install_Desktop(nullptr); }
+// A desktop that can do nothing but take posts from other threads.
+struct Post_Desktop final : Still_Desktop {
+  void Post(std::function<void()> fn) override;
   // Runs posts until the condition holds, for up to 20 s. False: it never did.
   bool Run_Until(const std::function<bool()>& condition);
-
-  void Post(std::function<void()> fn) override;
-  Answer Message_Box(std::string_view, int, std::string_view) override { return Answer::Ok; }
-  void Run_Events(Event_Set) override {}
-  void Wait_Events() override {}
-  void Quit() override {}
-  void Beep() override {}
-  bool Play_System_Sound(std::string_view) override { return false; }
-  Size_px Screen_Size() override { return {}; }
-  int Pixels_Per_Inch() override { return 96; }
-  bool Add_Font(std::string_view) override { return false; }
-  int Remove_Font(std::string_view) override { return 0; }
-  void Form_Loaded(Form&) override {}
-  void Form_Unloaded(Form&) override {}
-  void Bring_To_Front(Form&) override {}
-  void Show_Focus(Form&, Control*) override {}
-  void Changed(Component&) override {}
-  void Forget(Component&) override {}
-  std::int64_t Now_us() override { return 0; }
-  void Wake_At_us(std::int64_t) override {}
+  void Run_Posts();  // all that were made up to now
 
  private:
   std::mutex mutex_;
@@ -100,7 +93,7 @@ struct Post_Desktop final : Desktop {
 // An open, started input of a service with four buffers, which keeps what it gets.
 struct Test_Input {
   Test_Input(Midi_Service& service, int device);
-  ~Test_Input();
+  ~Test_Input() { EXPECT_EQ(service_.In_Close(handle), Midi_Ok); }
   Test_Input(const Test_Input&) = delete;
   Test_Input& operator=(const Test_Input&) = delete;
 

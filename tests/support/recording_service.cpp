@@ -4,12 +4,8 @@
 
 #include <algorithm>
 #include <ostream>
-#include <utility>
 
 namespace {
-
-constexpr std::size_t Long_Limit = 1024;
-constexpr std::size_t Short_Limit = 4096;
 
 std::size_t Short_Length(unsigned status) {
   if (status >= 0xF4 || status == 0xF0) return 1;
@@ -20,15 +16,16 @@ std::size_t Short_Length(unsigned status) {
 template <class Caps>
 int Fill_Name(const std::vector<std::string>& names, int device, Caps& caps) {
   if (device < 0 || device >= static_cast<int>(names.size())) return Midi_Bad_Device;
+  const std::string& name = names[static_cast<std::size_t>(device)];
+  EXPECT_LT(name.size(), std::size_t{Midi_Name_Size}) << name;
   caps = Caps{};
-  names[static_cast<std::size_t>(device)].copy(caps.name.data(), Midi_Name_Size - 1);
+  name.copy(caps.name.data(), Midi_Name_Size - 1);
   return Midi_Ok;
 }
 
-void Check_Names(const std::vector<std::string>& names) {
-  for (const std::string& name : names) {
-    if (name.size() >= Midi_Name_Size) ADD_FAILURE() << "a device name of more than 31 characters: " << name;
-  }
+int Misuse(int code, const char* what) {
+  ADD_FAILURE() << what;
+  return code;
 }
 
 }  // namespace
@@ -60,36 +57,16 @@ Byte_String Bytes_Of(std::string_view hex_text) {
   return bytes;
 }
 
-Recording_Service::Recording_Service() : outputs_{"JX-8P"}, inputs_{"JX-8P"} { Install_Midi_Service(this); }
+Recording_Service::Recording_Service() { Install_Midi_Service(this); }
 Recording_Service::~Recording_Service() { Install_Midi_Service(nullptr); }
-
-void Recording_Service::Outputs(std::vector<std::string> names) {
-  Check_Names(names);
-  outputs_ = std::move(names);
-}
-
-void Recording_Service::Inputs(std::vector<std::string> names) {
-  Check_Names(names);
-  inputs_ = std::move(names);
-}
 
 void Recording_Service::Fail_Next(Midi_Operation operation, int code, int times) {
   failures_[operation] = {code, times};
 }
 
-void Recording_Service::Answer_65(int times) { still_playing_ = times; }
-void Recording_Service::Stay_Full(bool full) { full_ = full; }
-void Recording_Service::Hold_Wire() { held_ = true; }
-
-void Recording_Service::Release_Wire() {
-  held_ = false;
-  waiting_bytes_ = 0;
-}
-
 void Recording_Service::Unplug() {
-  waiting_bytes_ = 0;
-  outputs_.clear();
-  inputs_.clear();
+  out_.names.clear();
+  in_.names.clear();
   unplugged_ = true;
 }
 
@@ -125,174 +102,150 @@ Byte_String Recording_Service::Wire() const {
 }
 
 int Recording_Service::Calls(Midi_Operation operation) const {
-  const auto found = calls_.find(operation);
-  return found == calls_.end() ? 0 : found->second;
+  return calls_.contains(operation) ? calls_.at(operation) : 0;
 }
 
 int Recording_Service::Enter(Midi_Operation operation) {
   ++calls_[operation];
   Failure& failure = failures_[operation];
-  if (failure.times <= 0) return Midi_Ok;
-  --failure.times;
-  return failure.code;
+  return failure.times-- > 0 ? failure.code : Midi_Ok;
 }
 
-int Recording_Service::Enter(Midi_Operation operation, std::int32_t handle, std::int32_t open_handle) {
+int Recording_Service::Enter(Midi_Operation operation, std::int32_t handle, const Side& side) {
   const int scripted = Enter(operation);
-  if (handle > 0 && handle != open_handle) ADD_FAILURE() << "handle " << handle << " is not open";
-  if (handle <= 0 || handle != open_handle) return Midi_Invalid_Handle;
-  return scripted;
+  if (handle == side.handle && handle > 0) return scripted;
+  return handle <= 0 ? Midi_Invalid_Handle : Misuse(Midi_Invalid_Handle, "a handle that is not open");
 }
 
-int Recording_Service::Take(Sent_Message message, std::size_t limit) {
-  if (unplugged_) return Midi_No_Device;
-  if (full_ || (held_ && waiting_bytes_ >= limit)) return Midi_Not_Ready;
-  if (held_) waiting_bytes_ += message.bytes.size();
-  sent_.push_back(std::move(message));
+int Recording_Service::Open(Midi_Operation operation, Side& side, std::int32_t& handle, int device) {
+  if (const int scripted = Enter(operation)) return scripted;
+  if (device < 0 || device >= static_cast<int>(side.names.size())) return Midi_Bad_Device;
+  if (side.handle != 0) return Misuse(Midi_Allocated, "a device is opened while one is open");
+  handle = side.handle = ++last_handle_;
   return Midi_Ok;
 }
 
-void Recording_Service::Refresh() { Enter(Midi_Operation::Refresh); }
-int Recording_Service::Out_Count() { return static_cast<int>(outputs_.size()); }
-int Recording_Service::In_Count() { return static_cast<int>(inputs_.size()); }
-
-int Recording_Service::Out_Caps(int device, MIDI_Out_Caps& caps) {
-  const int scripted = Enter(Midi_Operation::Out_Caps);
-  return scripted != Midi_Ok ? scripted : Fill_Name(outputs_, device, caps);
-}
-
-int Recording_Service::In_Caps(int device, MIDI_In_Caps& caps) {
-  const int scripted = Enter(Midi_Operation::In_Caps);
-  return scripted != Midi_Ok ? scripted : Fill_Name(inputs_, device, caps);
-}
-
-int Recording_Service::Out_Open(std::int32_t& handle, int device) {
-  if (const int scripted = Enter(Midi_Operation::Out_Open)) return scripted;
-  if (device < 0 || device >= Out_Count()) return Midi_Bad_Device;
-  if (Out_Is_Open()) {
-    ADD_FAILURE() << "an output is opened while one is open";
-    return Midi_Allocated;
-  }
-  handle = out_handle_ = ++last_handle_;
-  out_device_ = device;
-  unplugged_ = false;
-  return Midi_Ok;
-}
-
-int Recording_Service::Out_Short(std::int32_t handle, std::uint32_t message) {
-  if (const int code = Enter(Midi_Operation::Out_Short, handle, out_handle_)) return code;
-  Byte_String bytes;
-  for (unsigned shift = 0; shift < 24; shift += 8) bytes += static_cast<char>(message >> shift & 0xFFU);
-  const unsigned status = message & 0xFFU;
-  if (status < 0x80) {
-    sent_.push_back({Sent_Kind::Ignored, bytes});
-    return Midi_Ok;
-  }
-  return Take({Sent_Kind::Short, bytes.substr(0, Short_Length(status))}, Short_Limit);
-}
-
-int Recording_Service::Out_Prepare(std::int32_t handle, MIDI_Header& header) {
-  const int code = Enter(Midi_Operation::Out_Prepare, handle, out_handle_);
+int Recording_Service::Prepare(Midi_Operation operation, std::int32_t handle, const Side& side,
+                               MIDI_Header& header) {
+  const int code = Enter(operation, handle, side);
   prepare_failed_ = code != Midi_Ok;
   if (code == Midi_Ok) header.flags |= Header_Prepared;
   return code;
 }
 
+int Recording_Service::Take(Sent_Message message) {
+  if (unplugged_) return Midi_No_Device;
+  sent_.push_back(std::move(message));
+  return Midi_Ok;
+}
+
+bool Recording_Service::Holds(const MIDI_Header& header) const {
+  return std::ranges::find(buffers_, &header) != buffers_.end();
+}
+
+void Recording_Service::Stop() {
+  started_ = false;
+  buffers_.clear();
+}
+
+int Recording_Service::Out_Caps(int device, MIDI_Out_Caps& caps) {
+  const int scripted = Enter(Midi_Operation::Out_Caps);
+  return scripted != Midi_Ok ? scripted : Fill_Name(out_.names, device, caps);
+}
+
+int Recording_Service::In_Caps(int device, MIDI_In_Caps& caps) {
+  const int scripted = Enter(Midi_Operation::In_Caps);
+  return scripted != Midi_Ok ? scripted : Fill_Name(in_.names, device, caps);
+}
+
+int Recording_Service::Out_Open(std::int32_t& handle, int device) {
+  const int code = Open(Midi_Operation::Out_Open, out_, handle, device);
+  if (code == Midi_Ok) unplugged_ = false;
+  return code;
+}
+
+int Recording_Service::Out_Short(std::int32_t handle, std::uint32_t message) {
+  if (const int code = Enter(Midi_Operation::Out_Short, handle, out_)) return code;
+  Byte_String bytes;
+  for (unsigned shift = 0; shift < 24; shift += 8) bytes += static_cast<char>(message >> shift & 0xFFU);
+  const unsigned status = message & 0xFFU;
+  if (status >= 0x80) return Take({Sent_Kind::Short, bytes.substr(0, Short_Length(status))});
+  sent_.push_back({Sent_Kind::Ignored, bytes});
+  return Midi_Ok;
+}
+
+int Recording_Service::Out_Prepare(std::int32_t handle, MIDI_Header& header) {
+  return Prepare(Midi_Operation::Out_Prepare, handle, out_, header);
+}
+
 int Recording_Service::Out_Long(std::int32_t handle, MIDI_Header& header) {
-  if (const int code = Enter(Midi_Operation::Out_Long, handle, out_handle_)) return code;
+  if (const int code = Enter(Midi_Operation::Out_Long, handle, out_)) return code;
   if ((header.flags & Header_Prepared) == 0) {
-    if (!prepare_failed_) ADD_FAILURE() << "a long message whose header was not prepared";
-    return Midi_Unprepared;
+    return prepare_failed_ ? Midi_Unprepared : Misuse(Midi_Unprepared, "the header was not prepared");
   }
   if (header.buffer_length > header.data.size()) {
-    ADD_FAILURE() << "a header that is longer than its data";
-    return Midi_Invalid_Parameter;
+    return Misuse(Midi_Invalid_Parameter, "a header that is longer than its data");
   }
-  const int code = Take({Sent_Kind::Long, header.data.substr(0, header.buffer_length)}, Long_Limit);
+  const int code = Take({Sent_Kind::Long, header.data.substr(0, header.buffer_length)});
   if (code == Midi_Ok) header.flags |= Header_Done;
   return code;
 }
 
 int Recording_Service::Out_Unprepare(std::int32_t handle, MIDI_Header& header) {
-  if (const int code = Enter(Midi_Operation::Out_Unprepare, handle, out_handle_)) return code;
+  if (const int code = Enter(Midi_Operation::Out_Unprepare, handle, out_)) return code;
   header.flags &= ~Header_Prepared;
   return Midi_Ok;
 }
 
 int Recording_Service::Out_Close(std::int32_t handle) {
-  if (const int code = Enter(Midi_Operation::Out_Close, handle, out_handle_)) return code;
-  if (still_playing_ > 0 || waiting_bytes_ > 0) {
-    still_playing_ = std::max(0, still_playing_ - 1);
-    return Midi_Still_Playing;
-  }
-  out_handle_ = 0;
+  if (const int code = Enter(Midi_Operation::Out_Close, handle, out_)) return code;
+  out_.handle = 0;
   return Midi_Ok;
 }
 
 int Recording_Service::In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) {
-  if (const int scripted = Enter(Midi_Operation::In_Open)) return scripted;
-  if (device < 0 || device >= In_Count()) return Midi_Bad_Device;
-  if (In_Is_Open()) {
-    ADD_FAILURE() << "an input is opened while one is open";
-    return Midi_Allocated;
-  }
-  handle = in_handle_ = ++last_handle_;
-  in_device_ = device;
-  receiver_ = std::move(receiver);
-  started_ = false;
-  return Midi_Ok;
+  const int code = Open(Midi_Operation::In_Open, in_, handle, device);
+  if (code == Midi_Ok) receiver_ = std::move(receiver);
+  return code;
 }
 
 int Recording_Service::In_Prepare(std::int32_t handle, MIDI_Header& header) {
-  if (const int code = Enter(Midi_Operation::In_Prepare, handle, in_handle_)) return code;
-  header.flags |= Header_Prepared;
-  return Midi_Ok;
+  return Prepare(Midi_Operation::In_Prepare, handle, in_, header);
 }
 
 int Recording_Service::In_Add_Buffer(std::int32_t handle, MIDI_Header& header) {
-  if (const int code = Enter(Midi_Operation::In_Add_Buffer, handle, in_handle_)) return code;
-  if ((header.flags & Header_Prepared) == 0) {
-    ADD_FAILURE() << "a buffer that was not prepared is added";
-    return Midi_Unprepared;
-  }
-  if (std::find(buffers_.begin(), buffers_.end(), &header) != buffers_.end()) {
-    ADD_FAILURE() << "a buffer is added twice";
-    return Midi_Still_Playing;
-  }
+  if (const int code = Enter(Midi_Operation::In_Add_Buffer, handle, in_)) return code;
+  if ((header.flags & Header_Prepared) == 0) return Misuse(Midi_Unprepared, "the buffer was not prepared");
+  if (Holds(header)) return Misuse(Midi_Still_Playing, "a buffer is added twice");
   header.flags &= ~Header_Done;
   buffers_.push_back(&header);
   return Midi_Ok;
 }
 
 int Recording_Service::In_Unprepare(std::int32_t handle, MIDI_Header& header) {
-  if (const int code = Enter(Midi_Operation::In_Unprepare, handle, in_handle_)) return code;
-  if (std::find(buffers_.begin(), buffers_.end(), &header) != buffers_.end()) {
-    ADD_FAILURE() << "a buffer is unprepared while the input has it";
-    return Midi_Still_Playing;
-  }
+  if (const int code = Enter(Midi_Operation::In_Unprepare, handle, in_)) return code;
+  if (Holds(header)) return Misuse(Midi_Still_Playing, "the input still has the buffer");
   header.flags &= ~Header_Prepared;
   return Midi_Ok;
 }
 
 int Recording_Service::In_Start(std::int32_t handle) {
-  if (const int code = Enter(Midi_Operation::In_Start, handle, in_handle_)) return code;
-  started_ = true;
-  return Midi_Ok;
+  const int code = Enter(Midi_Operation::In_Start, handle, in_);
+  if (code == Midi_Ok) started_ = true;
+  return code;
 }
 
 int Recording_Service::In_Reset(std::int32_t handle) {
-  if (const int code = Enter(Midi_Operation::In_Reset, handle, in_handle_)) return code;
-  started_ = false;
-  buffers_.clear();
-  return Midi_Ok;
+  const int code = Enter(Midi_Operation::In_Reset, handle, in_);
+  if (code == Midi_Ok) Stop();
+  return code;
 }
 
 int Recording_Service::In_Close(std::int32_t handle) {
-  if (const int code = Enter(Midi_Operation::In_Close, handle, in_handle_)) return code;
-  started_ = false;
-  buffers_.clear();
+  if (const int code = Enter(Midi_Operation::In_Close, handle, in_)) return code;
+  Stop();
   receiver_ = nullptr;
-  in_handle_ = 0;
+  in_.handle = 0;
   return Midi_Ok;
 }
 

@@ -9,15 +9,13 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/midi_service.h"
 
-enum class Sent_Kind {
-  Short,
-  Long,
-  Ignored,  // a short message that does not begin with a status byte: its three bytes, which went nowhere
-};
+// Ignored: a short message that does not begin with a status byte, of three bytes, which went nowhere.
+enum class Sent_Kind { Short, Long, Ignored };
 
 struct Sent_Message {
   Sent_Kind kind = Sent_Kind::Short;
@@ -58,14 +56,12 @@ struct Recording_Service final : Midi_Service {
   Recording_Service& operator=(const Recording_Service&) = delete;
 
   // --- the script
-  void Outputs(std::vector<std::string> names);  // of up to 31 characters; seen at once, also without Refresh
-  void Inputs(std::vector<std::string> names);
+  // Names of up to 31 characters; seen at once, also without Refresh.
+  void Outputs(std::vector<std::string> names) { out_.names = std::move(names); }
+  void Inputs(std::vector<std::string> names) { in_.names = std::move(names); }
   void Fail_Next(Midi_Operation operation, int code, int times = 1);
-  void Answer_65(int times);  // of the next closes of an output
-  void Stay_Full(bool full);  // while full, every message is answered with 67
-  void Hold_Wire();     // messages wait: 1,024 bytes of long ones, 4,096 of short ones, then 67; close: 65
-  void Release_Wire();  // what waited leaves
-  void Unplug();        // every device goes; messages to an open output are answered with 68
+  void Answer_65(int times) { Fail_Next(Midi_Operation::Out_Close, Midi_Still_Playing, times); }
+  void Unplug();                    // every device goes; messages to an open output are answered with 68
   bool Deliver(Byte_String bytes);  // to the started input; false: no input, or no buffer for it
 
   // --- what was seen
@@ -74,16 +70,14 @@ struct Recording_Service final : Midi_Service {
   std::vector<std::string> Take_Hex();    // what went over the wire only, one text per message; forgets all
   Byte_String Wire() const;               // all bytes that went over the wire, one after another
   int Calls(Midi_Operation operation) const;
-  bool Out_Is_Open() const { return out_handle_ != 0; }
-  bool In_Is_Open() const { return in_handle_ != 0; }
+  bool Out_Is_Open() const { return out_.handle != 0; }
+  bool In_Is_Open() const { return in_.handle != 0; }
   bool In_Is_Started() const { return started_; }
-  int Out_Device() const { return out_device_; }  // that was opened last; -1 before
-  int In_Device() const { return in_device_; }
   int Free_Buffers() const { return static_cast<int>(buffers_.size()); }
 
   // --- the service
-  void Refresh() override;
-  int Out_Count() override;
+  void Refresh() override { Enter(Midi_Operation::Refresh); }
+  int Out_Count() override { return static_cast<int>(out_.names.size()); }
   int Out_Caps(int device, MIDI_Out_Caps& caps) override;
   int Out_Open(std::int32_t& handle, int device) override;
   int Out_Short(std::int32_t handle, std::uint32_t message) override;
@@ -91,7 +85,7 @@ struct Recording_Service final : Midi_Service {
   int Out_Long(std::int32_t handle, MIDI_Header& header) override;
   int Out_Unprepare(std::int32_t handle, MIDI_Header& header) override;
   int Out_Close(std::int32_t handle) override;
-  int In_Count() override;
+  int In_Count() override { return static_cast<int>(in_.names.size()); }
   int In_Caps(int device, MIDI_In_Caps& caps) override;
   int In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) override;
   int In_Prepare(std::int32_t handle, MIDI_Header& header) override;
@@ -104,32 +98,33 @@ struct Recording_Service final : Midi_Service {
   std::string Error_Text(int code) override;
 
  private:
+  // The outputs, or the inputs: their names, and the one that is open.
+  struct Side {
+    std::vector<std::string> names{"JX-8P"};
+    std::int32_t handle = 0;
+  };
   struct Failure {
     int code = 0;
     int times = 0;
   };
 
   int Enter(Midi_Operation operation);
-  int Enter(Midi_Operation operation, std::int32_t handle, std::int32_t open_handle);
-  int Take(Sent_Message message, std::size_t limit);
+  int Enter(Midi_Operation operation, std::int32_t handle, const Side& side);
+  int Open(Midi_Operation operation, Side& side, std::int32_t& handle, int device);
+  int Prepare(Midi_Operation operation, std::int32_t handle, const Side& side, MIDI_Header& header);
+  int Take(Sent_Message message);
+  bool Holds(const MIDI_Header& header) const;
+  void Stop();
 
-  std::vector<std::string> outputs_;
-  std::vector<std::string> inputs_;
+  Side out_;
+  Side in_;
   std::map<Midi_Operation, Failure> failures_;
   std::map<Midi_Operation, int> calls_;
   std::vector<Sent_Message> sent_;
   std::vector<MIDI_Header*> buffers_;
   Midi_Receiver receiver_;
   std::int32_t last_handle_ = 0;
-  std::int32_t out_handle_ = 0;
-  std::int32_t in_handle_ = 0;
-  int out_device_ = -1;
-  int in_device_ = -1;
-  int still_playing_ = 0;
-  std::size_t waiting_bytes_ = 0;
   bool started_ = false;
-  bool full_ = false;
-  bool held_ = false;
   bool unplugged_ = false;
   bool prepare_failed_ = false;
 };

@@ -8,13 +8,11 @@
 #include "platform/dispatch.h"
 #include "platform/timer.h"
 
-Scripted_Desktop::Scripted_Desktop() { Install_Desktop(this); }
-
 Scripted_Desktop::~Scripted_Desktop() {
-  EXPECT_TRUE(expected.empty()) << expected.size() << " expected box(es) never came, first: " << expected.front().text;
+  EXPECT_TRUE(expected.empty()) << expected.size()
+                                << " expected box(es) never came, first: " << expected.front().text;
   EXPECT_TRUE(at_wait.empty()) << at_wait.size() << " step(s) for a wait were never reached";
   Take_Changes();
-  Install_Desktop(nullptr);
 }
 
 void Scripted_Desktop::Take_Changes() {
@@ -36,7 +34,9 @@ void Scripted_Desktop::Advance_ms(int milliseconds) {
   now_us = end_us;
 }
 
-void Scripted_Desktop::Expect_Box(Answer answer, std::string text) { expected.push_back({answer, std::move(text)}); }
+void Scripted_Desktop::Expect_Box(Answer answer, std::string text) {
+  expected.push_back({answer, std::move(text)});
+}
 
 Answer Scripted_Desktop::Message_Box(std::string_view text, int style, std::string_view title) {
   boxes.push_back({std::string(text), style, std::string(title)});

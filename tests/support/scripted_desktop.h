@@ -1,5 +1,5 @@
-// A desktop that is driven by a test: a clock moved by hand, boxes answered from a script, the user's events as verbs.
-// It refuses misuse: a box that nobody expected, or a wait that nothing can end, fails the test.
+// A desktop that is driven by a test: a clock moved by hand, boxes answered from a script, the user's events
+// as verbs. It refuses misuse: a box that nobody expected, or a wait that nothing can end, fails the test.
 #pragma once
 
 #include <deque>
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/input.h"
+#include "support/still_desktop.h"
 
 struct Shown_Box {
   std::string text;
@@ -17,8 +18,7 @@ struct Shown_Box {
   std::string title;
 };
 
-struct Scripted_Desktop final : Desktop {
-  Scripted_Desktop();  // installs itself
+struct Scripted_Desktop final : Still_Desktop {
   ~Scripted_Desktop() override;
 
   // The clock. Due timers tick in the order of their times.
@@ -58,10 +58,7 @@ struct Scripted_Desktop final : Desktop {
   int Pixels_Per_Inch() override { return pixels_per_inch; }
   bool Add_Font(std::string_view host_path) override;
   int Remove_Font(std::string_view host_path) override;
-  void Form_Loaded(Form&) override {}
-  void Form_Unloaded(Form&) override {}
   void Bring_To_Front(Form& form) override { front = &form; }
-  void Show_Focus(Form&, Control*) override {}
   void Changed(Component& component) override { changed.insert(&component); }
   void Forget(Component& component) override { changed.erase(&component); }
   std::int64_t Now_us() override { return now_us; }

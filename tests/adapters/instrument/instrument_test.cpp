@@ -5,6 +5,7 @@
 
 #include <numeric>
 
+#include "adapters/midi/fake_backend.h"
 #include "adapters/midi/service.h"
 #include "support/midi_contract.h"
 #include "support/recording_service.h"
@@ -33,19 +34,14 @@ Byte_String Dump(const char* head) {
   return bytes;
 }
 
-TEST(Receiver, Takes_The_59_Values_Of_A_Dump_Whatever_Follows_Them) {
-  const Byte_String heads[] = {Bytes_Of("F7"), Bytes_Of("24 07 F0 41 36 00 21 30 01 05 7F F7"),
-                               Bytes_Of("90 3C 40"), Bytes_Of("")};
-  for (const Byte_String& rest : heads) {
-    Instrument::Receiver receiver;
-    receiver.Take(Dump("F0 41 35 00 21 20 01") + rest);
-    EXPECT_EQ(receiver.memory.Values(Tone), Counting_Tone()) << Hex_Text(rest);
-    EXPECT_EQ(receiver.memory.Values(Patch)[5], rest.size() > 3 ? 0x7F : 0);
-  }
-}
-
-TEST(Receiver, A_Dump_That_Is_Cut_Short_Changes_Nothing) {
+TEST(Receiver, Takes_The_59_Values_Of_A_Dump_Whatever_Follows_Them_And_Nothing_Of_A_Shorter_One) {
   const Byte_String whole = Dump("F0 41 35 00 21 20 01");
+  for (const char* rest : {"F7", "24 07 F0 41 36 00 21 30 01 05 7F F7", "90 3C 40", ""}) {
+    Instrument::Receiver receiver;
+    receiver.Take(whole + Bytes_Of(rest));
+    EXPECT_EQ(receiver.memory.Values(Tone), Counting_Tone()) << rest;
+    EXPECT_EQ(receiver.memory.Values(Patch)[5], std::string_view(rest).size() > 8 ? 0x7F : 0);
+  }
   for (std::size_t size = 0; size < whole.size(); ++size) {
     Instrument::Receiver receiver;
     receiver.Take(whole.substr(0, size) + "\xF7");
@@ -77,12 +73,10 @@ TEST(Receiver, A_Head_Says_Which_List_Is_Meant) {
 
 TEST(Receiver, A_Parameter_Message_Holds_Pairs_Up_To_Its_End) {
   Instrument::Receiver receiver;
-  // Ten characters of a name, a lone byte at the end, and no F7: the next status byte ends it.
-  receiver.Take(
-      Bytes_Of("F0 41 36 00 21 20 01 00 54 01 45 02 53 03 54 04 20 05 20 06 20 07 20 08 20 09 21 0F"));
-  receiver.Take(Bytes_Of("90 3C 40"));
+  // No F7: the next status byte ends it, and its lone last byte means nothing.
+  receiver.Take(Name_Message() + Bytes_Of("90 3C 40"));
   EXPECT_EQ(receiver.memory.Values(Tone)[0], 'T');
-  EXPECT_EQ(receiver.memory.Values(Tone)[9], '!');
+  EXPECT_EQ(receiver.memory.Values(Tone)[9], ' ');
   EXPECT_EQ(receiver.memory.Values(Tone)[15], 0);
   EXPECT_TRUE(receiver.Sounds(0, 0x3C));
   // A clock byte ends nothing; a number that the list does not have is passed over.
@@ -121,46 +115,39 @@ TEST(Built_In, Transmits_Its_Tone_To_Who_Starts_To_Listen) {
   Midi::Service service({&instrument});
   std::int32_t handle = -1;
   ASSERT_EQ(service.Out_Open(handle, Find_Output(service, "Built-in JX-8P")), Midi_Ok);
-  MIDI_Header header;
-  header.data = Dump("F0 41 35 09 21 20 01") + "\xF7";
-  header.buffer_length = 67;
-  service.Out_Prepare(handle, header);
-  ASSERT_EQ(service.Out_Long(handle, header), Midi_Ok);
+  const Byte_String dump = Dump("F0 41 35 09 21 20 01") + "\xF7";
+  ASSERT_EQ(Send_Long(service, handle, dump), Midi_Ok);
   ASSERT_TRUE(Await([&] { return instrument.Values(Tone) == Counting_Tone(); }));
   Test_Input input(service, Find_Input(service, "Built-in JX-8P"));
   ASSERT_TRUE(desktop.Run_Until([&] { return !input.received.empty(); }));
-  EXPECT_EQ(input.received, std::vector{header.data});
+  EXPECT_EQ(Hex_Text(input.received[0]), Hex_Text(dump));
 }
 
-// The instrument keeps no bytes, so the rig looks at them on their way into it.
+// The instrument keeps no bytes, so they are noted on their way into it.
 struct Tapped_Instrument final : Midi::Backend {
   struct Tap final : Midi::Sink {
-    Tap(Tapped_Instrument& tapped, std::unique_ptr<Midi::Sink> sink)
-        : tapped_(tapped), sink_(std::move(sink)) {}
+    Tap(Fake_Port& port, std::unique_ptr<Midi::Sink> sink) : port_(port), sink_(std::move(sink)) {}
     Midi::Write_Result Write(std::string_view bytes) override {
-      const Midi::Write_Result result = sink_->Write(bytes);
-      const std::lock_guard lock(tapped_.mutex);
-      if (result == Midi::Write_Result::Taken) tapped_.bytes += bytes;
-      return result;
+      port_.Write(bytes);
+      return sink_->Write(bytes);
     }
     bool Gone() const override { return sink_->Gone(); }
 
    private:
-    Tapped_Instrument& tapped_;
+    Fake_Port& port_;
     std::unique_ptr<Midi::Sink> sink_;
   };
   void Refresh() override { instrument.Refresh(); }
   std::vector<Midi::Port> Ports(Midi::Direction direction) override { return instrument.Ports(direction); }
   std::unique_ptr<Midi::Sink> Open_Output(const Midi::Port& port) override {
-    return std::make_unique<Tap>(*this, instrument.Open_Output(port));
+    return std::make_unique<Tap>(tap, instrument.Open_Output(port));
   }
-  std::unique_ptr<Midi::Source> Open_Input(const Midi::Port& port, Midi::Byte_Receiver receiver) override {
-    return instrument.Open_Input(port, std::move(receiver));
+  std::unique_ptr<Midi::Source> Open_Input(const Midi::Port&, Midi::Byte_Receiver) override {
+    return nullptr;
   }
 
   Instrument::Built_In instrument;
-  std::mutex mutex;
-  Byte_String bytes;
+  Fake_Port tap;
 };
 
 struct Instrument_Rig final : Midi_Rig {
@@ -170,12 +157,8 @@ struct Instrument_Rig final : Midi_Rig {
   Midi_Service& Service() override { return service; }
   std::string Device_Name() override { return "Built-in JX-8P"; }
   Byte_String Received(std::size_t count) override {
-    Await([&] {
-      const std::lock_guard lock(tapped.mutex);
-      return tapped.bytes.size() >= count;
-    });
-    const std::lock_guard lock(tapped.mutex);
-    return std::exchange(tapped.bytes, {});
+    Await([&] { return tapped.tap.Bytes().size() >= count; });
+    return tapped.tap.Take_Bytes();
   }
 };
 

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -18,25 +17,31 @@
 #include "platform/menu.h"
 #include "platform/timer.h"
 
+using Texts = std::vector<std::string>;
+
 struct Desk : testing::Test {
   Desk() {
     // What the case before left: windows to be destroyed, and perhaps a quit.
     QTimer::singleShot(0, [] { QCoreApplication::exit(); });
     QApplication::exec();
     Install_Desktop(&desktop);
-    frame.width = 600 * 15;
-    frame.height = 500 * 15;
-    panel.width = 300 * 15;
-    panel.height = 200 * 15;
-    panel.left = 30 * 15;
-    panel.top = 20 * 15;
+    Place(frame, 0, 0, 600, 500);
+    Place(panel, 30, 20, 300, 200);
     knob.Place(100, 50, 16, 16);
     knob.tab_index = 0;
     lever.Place(150, 50, 16, 16);
     lever.tab_index = 1;
+    text.Place(10, 100, 80, 20);
+    text.tab_index = 2;
   }
   ~Desk() override { Install_Desktop(nullptr); }
 
+  static void Place(Form& form, int left, int top, int width, int height) {
+    form.left = left * 15;
+    form.top = top * 15;
+    form.width = width * 15;
+    form.height = height * 15;
+  }
   void Show_Windows() {
     Show(frame);
     Show(panel);
@@ -52,27 +57,12 @@ struct Desk : testing::Test {
     std::abort();
   }
 
-  template <class Native>
-  static Native& Widget_Of(const char* name) {
-    return dynamic_cast<Native&>(Widget(name));
-  }
-
   // Mouse on the window system's level; the place in pixels of the widget.
   static void Press(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mousePress(widget.window()->windowHandle(), button, {}, widget.mapTo(widget.window(), place));
   }
   static void Release(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseRelease(widget.window()->windowHandle(), button, {}, widget.mapTo(widget.window(), place));
-  }
-  static void Click(QWidget& widget, QPoint place = {5, 5}, Qt::MouseButton button = Qt::LeftButton) {
-    Press(widget, place, button);
-    Release(widget, place, button);
-  }
-  // A press of another button first, so that an earlier click nearby does not count as half of it.
-  static void Double_Click(QWidget& widget, QPoint place = {5, 5}) {
-    Click(*widget.window(), {590, 490}, Qt::MiddleButton);
-    QTest::mouseDClick(widget.window()->windowHandle(), Qt::LeftButton, {},
-                       widget.mapTo(widget.window(), place));
   }
   static void Move(QWidget& widget, QPoint place) {
     QTest::mouseMove(widget.window()->windowHandle(), widget.mapTo(widget.window(), place));
@@ -96,13 +86,13 @@ struct Desk : testing::Test {
 
   void Note(std::string what) { log.push_back(std::move(what)); }
 
-  std::vector<std::string> log;
+  Texts log;
   Qt_Desktop desktop{QT_TEST_PICTURES};
   Form frame{Form_Role::Frame, "FRAME"};
   Menu_Item menu_file{frame, "Menu_File", "&File"};
   Menu_Item menu_new{menu_file, "Menu_New", "&New", "Ctrl+N"};
-  Menu_Item menu_windows{frame, "Menu_Windows", "&Windows"};
   Form panel{Form_Role::Child, "PANEL"};
   Picture_Box knob{panel, "Knob"};
   Picture_Box lever{panel, "Lever"};
+  Text_Box text{panel, "Text"};
 };

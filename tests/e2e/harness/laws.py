@@ -5,11 +5,20 @@ the element from its last value to the one that the pointer's place asks for.
 """
 
 Limit = 127
+Panel_keys_top = 223  # of the little keyboard, on the panel
 
 
 def slider_top(bottom, value):
     """Top of a slider's cap that stands at bottom with the value 0."""
     return bottom - value * 80 // 127
+
+
+def drag_slider(screen, name, heights):
+    """Drags a slider of the panel by its cap's upper edge through heights, counted from there. Returns the places of
+    the pointer on the panel, which check_drag wants with slider_step."""
+    panel_top = screen.place("Play a chord")[1] - Panel_keys_top
+    _, cap_top = screen.drag(name, (8, 0), [(8, height) for height in heights])
+    return [cap_top - panel_top + height for height in (0, *heights)]
 
 
 def check_drag(values, step, path):

@@ -1,5 +1,6 @@
 """The program itself, from its start to its end."""
 
+import configparser
 import os
 import pathlib
 import signal
@@ -11,12 +12,20 @@ from harness.wire import Wire
 
 Panel = "VCF cutoff frequency"  # an element that is there as soon as the panel is
 
+Reminder = "Please don't forget to enable the MIDI System Exclusive (SysEx)"
+
 # A frame with room for every window beside the panel.
 Wide_frame = {
     "Main Window": {"Width": "1240", "Height": "960"},
     "Windows": {"Save Positions": "1", "Sequencer Left": "540", "Sequencer Top": "0", "Patch Left": "540",
                 "Patch Top": "250", "File Dialog Left": "540", "File Dialog Top": "440"},
 }
+
+
+def _parser():
+    parser = configparser.ConfigParser(delimiters="=", interpolation=None)
+    parser.optionxform = str
+    return parser
 
 
 class Session:
@@ -64,25 +73,18 @@ class Session:
         return pathlib.Path(self.machine.environment["XDG_CONFIG_HOME"]) / "melvor" / "MELVOR.INI"
 
     def write_settings(self):
-        sections = {section: dict(keys) for section, keys in {**Wide_frame, **self._settings}.items()}
+        sections = _parser()
+        sections.read_dict({**Wide_frame, **self._settings})
         if self._configured:
-            sections.setdefault("MIDI", {}).update({"Output": "synth:in", "Input": "synth:out"})
+            sections.read_dict({"MIDI": {"Output": "synth:in", "Input": "synth:out"}})
         self.settings_file.parent.mkdir(exist_ok=True)
-        lines = []
-        for section, keys in sections.items():
-            lines.append(f"[{section}]")
-            lines += [f"{key}={value}" for key, value in keys.items()]
-        self.settings_file.write_text("\r\n".join(lines) + "\r\n")
+        with open(self.settings_file, "w", newline="\r\n") as file:
+            sections.write(file, space_around_delimiters=False)
 
     def settings(self):
-        """The settings file as {section: {key: text}}."""
-        sections = {}
-        for line in self.settings_file.read_text().splitlines():
-            if line.startswith("["):
-                keys = sections.setdefault(line.strip("[]"), {})
-            elif "=" in line:
-                key, value = line.split("=", 1)
-                keys[key] = value
+        """The settings file as sections of keys."""
+        sections = _parser()
+        sections.read(self.settings_file)
         return sections
 
     def start(self, wait_for_panel=True):
@@ -95,6 +97,16 @@ class Session:
             active = ("xdotool", "getactivewindow", "getwindowpid")
             wait_until(lambda: (self.machine.run(*active) or "").strip() == str(self.process.pid),
                        "the program's window in front")
+
+    def confirm_setup(self, choices=()):
+        """The setup window turns the menu's Receive on. choices: pairs of a list's name and the entry to choose."""
+        self.screen.menu("MIDI", "Setup...")
+        self.screen.wait_for("OK")
+        for name, entry in choices:
+            self.screen.choose(name, entry)
+        self.screen.key("Return")
+        assert self.screen.box().startswith(Reminder)
+        self.screen.answer("OK")
 
     def screenshot(self, station):
         folder = pathlib.Path(os.environ["SCREENSHOTS"])

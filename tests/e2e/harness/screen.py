@@ -73,8 +73,7 @@ class Screen:
     def has(self, name):
         return self._look(name) is not None
 
-    def wait_for(self, name):
-        self.element(name)
+    wait_for = element
 
     def wait_for_end_of(self, name):
         wait_until(lambda: not self.has(name), f'the end of "{name}"')
@@ -119,11 +118,11 @@ class Screen:
         left, top, width, height = self.place(name)
         return left + width // 2, top + height // 2
 
-    def click(self, name, button=1, at=None):
+    def click(self, name, button=1, at=None, times=1):
         """at: pixels from the element's top left corner; its middle if not given."""
-        left, top, _, _ = self.place(name)
-        x, y = (left + at[0], top + at[1]) if at else self.middle(name)
-        self.hand("mousemove", x, y, "click", button)
+        left, top, width, height = self.place(name)
+        x, y = at or (width // 2, height // 2)
+        self.hand("mousemove", left + x, top + y, "click", "--repeat", times, "--delay", 60, button)
 
     def click_row(self, name, text, times=1):
         """Clicks, or double clicks, the row with that text of a list; it must not be scrolled out of sight."""

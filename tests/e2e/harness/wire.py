@@ -13,7 +13,7 @@ class Wire:
     def __init__(self, machine, capture_program):
         self.file = machine.directory / "wire.txt"
         self._process = machine.start(
-            "wire", [capture_program, "--file", str(self.file), "--name", "synth", "--commands"],
+            "wire", [capture_program, str(self.file), "synth"],
             stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         if self._process.stdout.readline() != b"ready\n":
             raise AssertionError(f"the JACK client did not start: {machine.log('wire')}")

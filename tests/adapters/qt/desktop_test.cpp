@@ -1,9 +1,12 @@
-#include <QLineEdit>
+// The order of events, message boxes, child windows and pictures.
+#include <QFile>
 #include <QMessageBox>
+#include <QPixmap>
 #include <QPushButton>
-#include <QScrollBar>
+#include <QTemporaryDir>
 #include <thread>
 
+#include "adapters/qt/picture_store.h"
 #include "desk.h"
 #include "platform/runtime_error.h"
 
@@ -25,27 +28,26 @@ TEST_F(Desk, Input_Waits_In_Order_While_A_Handler_Lets_Only_Timers_Run) {
   timer.enabled = true;
   while (log.empty()) desktop.Run_Events(Event_Set::Without_Input);
   desktop.Run_Events(Event_Set::Without_Input);
-  EXPECT_EQ(log, std::vector<std::string>{"tick"});
+  EXPECT_EQ(log, Texts{"tick"});
   desktop.Run_Events(Event_Set::All);
-  EXPECT_EQ(log, (std::vector<std::string>{"tick", "press", "key 38", "lever"}));
+  EXPECT_EQ(log, (Texts{"tick", "press", "key 38", "lever"}));
 }
 
 TEST_F(Desk, Posts_Come_From_Any_Thread_In_Order_One_Event_Each) {
   Show_Windows();
-  std::thread other([&] {
+  std::thread([&] {
     desktop.Post([&] {
       Note("first");
       throw Runtime_Error(Error_Overflow);
     });
     desktop.Post([&] { Note("second"); });
-  });
-  other.join();
+  }).join();
   At_Box([&](QWidget& box) {
     Note(dynamic_cast<QMessageBox&>(box).text().toStdString());
     QTest::keyClick(&box, Qt::Key_Escape);
   });
   Await([&] { return log.size() == 3; });
-  EXPECT_EQ(log, (std::vector<std::string>{"first", "Error 6: Overflow", "second"}));
+  EXPECT_EQ(log, (Texts{"first", "Error 6: Overflow", "second"}));
 }
 
 TEST_F(Desk, While_A_Box_Is_Open_Nothing_Of_The_Program_Runs) {
@@ -73,21 +75,19 @@ TEST_F(Desk, While_A_Box_Is_Open_Nothing_Of_The_Program_Runs) {
 }
 
 TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
-  struct Row {
+  const struct {
     int style;
     QMessageBox::StandardButton pressed;
     Answer answer, escaped;
     QMessageBox::Icon icon;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {Box_Ok, QMessageBox::Ok, Answer::Ok, Answer::Ok, QMessageBox::NoIcon},
       {Box_Yes_No_Cancel | Box_Question, QMessageBox::No, Answer::No, Answer::Cancel, QMessageBox::Question},
       {Box_Yes_No | Box_Stop, QMessageBox::Yes, Answer::Yes, Answer::No, QMessageBox::Critical},
-      {Box_Retry_Cancel | Box_Exclamation, QMessageBox::Retry, Answer::Retry, Answer::Cancel,
-       QMessageBox::Warning},
+      {Box_Retry_Cancel, QMessageBox::Retry, Answer::Retry, Answer::Cancel, QMessageBox::NoIcon},
   };
   Show_Windows();
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     At_Box([&](QWidget& widget) {
       auto& box = dynamic_cast<QMessageBox&>(widget);
       EXPECT_EQ(box.text(), QStringLiteral("<b>one</b>\ntwo\n\nthree"));
@@ -101,70 +101,65 @@ TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
   }
 }
 
-TEST_F(Desk, Quit_Ends_An_Open_Box_And_Every_Wait) {
+TEST_F(Desk, Children_Have_Their_Inside_Size_And_The_Bottom_One_Stays_Below) {
+  Form floor(Form_Role::Child, "FLOOR");
+  floor.border = Border::None;
+  floor.bottom = true;
+  Place(floor, 99, 0, 528, 400);
   Show_Windows();
-  At_Box([&](QWidget&) { desktop.Quit(); });
-  EXPECT_EQ(Message_Box("Save?", Box_Yes_No), Answer::No);
-  desktop.Wait_Events();  // returns: nothing will come any more
-  EXPECT_EQ(Message_Box("Save?", Box_Yes_No_Cancel), Answer::Cancel);
-  EXPECT_EQ(desktop.Run(), 0);
+  Show(floor);
+  EXPECT_EQ(Active_Form(), &floor);
+  EXPECT_EQ(Widget("FLOOR").size(), QSize(528, 400));
+  EXPECT_EQ(Widget("FLOOR").mapTo(&Widget("FRAME"), QPoint()), QPoint(0, 0)) << "fixed at the corner";
+  EXPECT_EQ(Widget("PANEL").size(), QSize(300, 200));
+  EXPECT_EQ(Widget("PANEL").parentWidget()->pos(), QPoint(30, 20));
+  EXPECT_EQ(Widget("FRAME").childAt(150, 120), &Widget("PANEL")) << "the active one is still below";
 }
 
-TEST_F(Desk, A_View_Is_Brought_Up_To_Date_Once_At_The_End_Of_The_Event) {
-  struct Moves : QObject {
-    bool eventFilter(QObject*, QEvent* event) override {
-      count += event->type() == QEvent::Move ? 1 : 0;
-      return false;
-    }
-    int count = 0;
-  };
-  knob.on_mouse_down = [&](const Mouse_Event&) {
-    for (int left = 0; left < 10; ++left) knob.left = left;
-    knob.visible = false;
-    knob.visible = true;
-    Note(std::to_string(Widget("Knob").x()));
+TEST_F(Desk, The_User_Moves_Activates_And_Closes_By_The_Title_Bar) {
+  Form other(Form_Role::Child, "OTHER");
+  Place(other, 350, 0, 100, 100);
+  panel.on_activate = [&] { Note("panel"); };
+  panel.on_query_unload = [&](bool& cancel) {
+    Note("query");
+    cancel = log.size() < 3;
   };
   Show_Windows();
-  Moves moves;
-  Widget("Knob").installEventFilter(&moves);
-  Press(Widget("Knob"), {2, 2});
-  EXPECT_EQ(log, std::vector<std::string>{"100"});
-  EXPECT_EQ(Widget("Knob").x(), 9);
-  EXPECT_EQ(moves.count, 1);
+  Show(other);
+  log.clear();
+  QWidget& title = *Widget("PANEL").parentWidget();
+  Press(title, {100, 8});
+  Move(*title.window(), title.mapTo(title.window(), QPoint(110, 15)));
+  Release(title, {100, 8});
+  EXPECT_EQ(panel.left(), 40 * 15);
+  EXPECT_EQ(panel.top(), 27 * 15);
+  EXPECT_EQ(panel.width(), 300 * 15);
+  title.close();
+  EXPECT_TRUE(panel.Loaded() && title.isVisible());
+  title.close();
+  EXPECT_EQ(log, (Texts{"panel", "query", "query"}));
+  EXPECT_EQ(Active_Form(), &other);
 }
 
-TEST_F(Desk, What_The_Program_Sets_Comes_Back_As_No_Users_Action) {
-  Scroll_Bar bar(panel, "Bar");
-  bar.Place(0, 0, 16, 150);
-  bar.orientation = Orientation::Vertical;
-  bar.largest_on_top = true;
-  bar.tab_index = 2;
-  bar.on_change = [&] {
-    Note("bar " + std::to_string(bar.value()));
-    if (bar.value() > 50) bar.value = 50;  // the program has the last word
-  };
-  List_Box list(panel, "List");
-  list.Place(20, 60, 60, 100);
-  list.tab_index = 3;
-  list.on_click = [&] { Note("list " + std::to_string(list.index())); };
-  Text_Box text(panel, "Text");
-  text.Place(20, 0, 60, 20);
-  text.on_change = [&] { Note("text"); };
-  Show_Windows();
-  bar.value = 50;
-  text.text = std::string("set");
-  for (const char* item : {"one", "two", "three"}) list.Add_Item(item);
-  list.index = 1;
-  desktop.Run_Events(Event_Set::All);
-  EXPECT_TRUE(log.empty());
-  EXPECT_EQ(Widget_Of<QLineEdit>("Text").text(), "set");
-  Set_Focus(bar);
-  Type(Qt::Key_Up);
-  EXPECT_EQ(Widget_Of<QScrollBar>("Bar").value(), 50);
-  Type(Qt::Key_Down);
-  Set_Focus(list);
-  Type(Qt::Key_Down);
-  EXPECT_EQ(log, (std::vector<std::string>{"bar 51", "bar 49", "list 2"}));
+TEST(Pictures, Are_Sharp_At_Any_Pixel_Ratio_And_A_Missing_One_Is_Told_Once) {
+  const QTemporaryDir directory;
+  QFile file(directory.filePath("mark.svg"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(R"(<svg xmlns="http://www.w3.org/2000/svg" width="4" height="2">)"
+             R"(<rect width="0.5" height="2" fill="#f00"/></svg>)");
+  file.close();
+  Picture_Store store(directory.path().toStdString());
+  EXPECT_EQ(store.Get(Picture{"mark"}, 1).size(), QSize(4, 2));
+  const QPixmap large = store.Get(Picture{"mark"}, 2);
+  EXPECT_EQ(large.deviceIndependentSize(), QSizeF(4, 2));
+  EXPECT_EQ(large.toImage().pixelColor(0, 1), QColor(255, 0, 0));
+  EXPECT_EQ(large.toImage().pixelColor(1, 1).alpha(), 0);
+
+  testing::internal::CaptureStderr();
+  for (const char* name : {"gone", "gone", ""}) EXPECT_TRUE(store.Get(Picture{name}, 1).isNull());
+  const std::string told = testing::internal::GetCapturedStderr();
+  EXPECT_NE(told.find("gone.svg"), std::string::npos);
+  EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1);
 }
 
 }  // namespace
