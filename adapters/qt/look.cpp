@@ -19,6 +19,23 @@ constexpr QColor Panel_Letter(0xe4, 0xe8, 0xec);
 constexpr QColor Panel_Faint_Letter(0x7d, 0x85, 0x8c);
 constexpr QColor Panel_Chosen(0x1c, 0x7d, 0x8a);
 
+int Half_Way(int from, int to) { return (from + to) / 2; }
+
+// What cannot be used is lettered half way between ink and ground. The toolkit's own grey can hardly be read,
+// on dark desktops least of all.
+void Set_Faint_Lettering() {
+  const QPalette desktop = QApplication::palette();
+  QPalette faint;
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    const QColor ink = desktop.color(QPalette::Active, role);
+    const QColor ground = desktop.color(QPalette::Active, QPalette::Window);
+    faint.setColor(QPalette::Disabled, role,
+                   QColor(Half_Way(ink.red(), ground.red()), Half_Way(ink.green(), ground.green()),
+                          Half_Way(ink.blue(), ground.blue())));
+  }
+  QApplication::setPalette(faint);
+}
+
 // Message boxes have the same plain buttons as the program's own windows.
 struct Plain_Style final : QProxyStyle {
   Plain_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -36,6 +53,7 @@ void Set_Look() {
   // One style everywhere: others leave wider margins, which would cut the lettering in controls of fixed
   // sizes.
   QApplication::setStyle(new Plain_Style);
+  Set_Faint_Lettering();
   QFont font = QApplication::font();
   font.setPixelSize(Text_Size_px);
   QApplication::setFont(font);
