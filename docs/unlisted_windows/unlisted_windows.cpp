@@ -1,5 +1,5 @@
-// The windows that no menu reaches, for pictures of them: the program with its built-in instrument, which opens
-// the window that UNLISTED_WINDOW names, "MKS-70" or a task of the file dialog, at once.
+// The windows that no menu reaches, for pictures of them: the program with its built-in instrument, which
+// opens the window that UNLISTED_WINDOW names, "MKS-70" or a task of the file dialog, at once.
 #include <QApplication>
 #include <QIcon>
 

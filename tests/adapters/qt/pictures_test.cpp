@@ -60,4 +60,28 @@ TEST_F(Desk, What_Lies_Below_Shows_Through_A_Picture_And_Around_It) {
   EXPECT_GT(seen.pixelColor(108, 60).red(), 100);
 }
 
+TEST_F(Desk, No_Line_Falls_Between_The_Pixels_Of_A_Scaled_Screen) {
+  constexpr int count = 8;
+  std::vector<std::unique_ptr<Line>> lines;
+  for (int place = 0; place < count; ++place) {
+    lines.push_back(std::make_unique<Line>(panel, "Line"));
+    lines.back()->Set(10 + 7 * place, 10, 10 + 7 * place, 30);
+    lines.back()->color = Green;
+  }
+  Show_Windows();
+  QWidget& body = Widget("PANEL");
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+    QImage seen(body.size() * ratio, QImage::Format_RGB32);
+    seen.setDevicePixelRatio(ratio);
+    body.render(&seen);
+    int runs = 0;
+    const int row = static_cast<int>(20 * ratio);
+    for (int x = 1; x < seen.width(); ++x) {
+      const auto green = [&](int column) { return seen.pixelColor(column, row) == QColor(0, 255, 0); };
+      if (green(x) && !green(x - 1)) ++runs;
+    }
+    EXPECT_EQ(runs, count) << ratio;
+  }
+}
+
 }  // namespace
