@@ -71,6 +71,7 @@ void Assign_Others() {
   name.fore_color = Cyan;
   name.back_color = Black;
   name.spoken_name = "Tone name";
+  name.tool_tip = "Click to name the tone";
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ MIDI_Setup_Window::MIDI_Setup_Window() : Form(Form_Role::Child, "MIDI_Setup") {
         List_Row{Input_Label, Input_Devices, "&Input Device", "MIDI input device", 74, List_Width},
         List_Row{Channel_Label, Channel, "MIDI &Channel", "MIDI channel", 104, 60}}) {
     row.label.caption = row.caption;
-    row.label.Place(Label_Left, row.top + 3, List_Left - Label_Left - 8, Row_Height - 4);
+    row.label.Place(Label_Left, row.top + 5, List_Left - Label_Left - 8, Row_Height - 6);
     row.label.tab_index = tab++;
     row.list.Place(List_Left, row.top, row.list_width, Row_Height);
     row.list.tab_index = tab++;

@@ -36,11 +36,63 @@ void Control_View::Detach() {
   widget.blockSignals(true);
 }
 
+namespace {
+
+bool Takes_Clicks(const Control& control) { return control.on_click || control.on_mouse_down; }
+
+// Tells which way a control of the panel is moved; Qt::ArrowCursor: it is only looked at.
+Qt::CursorShape Shape_Of(const Picture_Box& box) {
+  switch (box.role) {
+    case Role::Slider:
+    case Role::Switch:
+      return box.on_mouse_move ? Qt::SizeVerCursor : Qt::PointingHandCursor;
+    case Role::Knob:
+      return Qt::SizeHorCursor;
+    case Role::Button:
+    case Role::Light:
+      return Qt::PointingHandCursor;
+    case Role::Picture:
+      return Qt::ArrowCursor;
+  }
+  return Qt::ArrowCursor;
+}
+
+Qt::CursorShape Shape_Of(const Control& control) {
+  switch (control.kind) {
+    case Kind::Picture_Box:
+      return Shape_Of(static_cast<const Picture_Box&>(control));
+    case Kind::Canvas:
+      if (control.on_mouse_move) return Qt::CrossCursor;
+      [[fallthrough]];
+    case Kind::Label:
+      return Takes_Clicks(control) ? Qt::PointingHandCursor : Qt::ArrowCursor;
+    case Kind::Text_Box:
+      return static_cast<const Text_Box&>(control).read_only && Takes_Clicks(control) ? Qt::PointingHandCursor
+                                                                                      : Qt::IBeamCursor;
+    default:
+      return Qt::ArrowCursor;
+  }
+}
+
+}  // namespace
+
+void Control_View::Show_Pointer() {
+  auto* area = dynamic_cast<QAbstractScrollArea*>(&widget);
+  QWidget& surface = area == nullptr ? widget : *area->viewport();
+  const Qt::CursorShape shape = Usable(control) ? Shape_Of(control) : Qt::ArrowCursor;
+  if (shape == Qt::ArrowCursor) {
+    if (surface.testAttribute(Qt::WA_SetCursor)) surface.unsetCursor();
+  } else if (surface.cursor().shape() != shape) {
+    surface.setCursor(shape);
+  }
+}
+
 void Control_View::Update() {
   if (const QRect place = Place(); place != widget.geometry()) widget.setGeometry(place);
   if (manner.greys && widget.isEnabled() != control.enabled()) widget.setEnabled(control.enabled());
   const QString tip = As_Plain_Tip(control.tool_tip());
   if (widget.toolTip() != tip) widget.setToolTip(tip);
+  Show_Pointer();
   Show_Values();
   if (widget.isHidden() == control.visible()) widget.setVisible(control.visible());
 }

@@ -24,6 +24,9 @@ struct Control_View : Component_View {
 
   void Update() final;
 
+  // Shows the pointer shape that tells how the control is worked, or the window's while it cannot be.
+  void Show_Pointer();
+
   // Forgets the control, which may go away; the widget stays until its window is destroyed.
   void Detach();
 

@@ -14,7 +14,11 @@
 #include "platform/input.h"
 
 void Form_Body::Show_Background(const Form& form) {
-  Set_Colors(*this, form.own_colors(), Black, form.back_color());
+  if (form.picture() == Picture()) {
+    Set_Colors(*this, form.own_colors(), Black, form.back_color());
+  } else {
+    Set_Panel_Colors(*this);
+  }
   setAutoFillBackground(true);
   if (picture_ == form.picture()) return;
   picture_ = form.picture();
@@ -71,6 +75,7 @@ void Form_View::Update() {
 }
 
 void Form_View::Show_Pointer() {
+  for (const auto& view : controls_) view->Show_Pointer();
   Pointer_Shape shape = form.pointer();
   if (shape == Pointer_Shape::Default && shell.frame != nullptr) shape = shell.frame->form.pointer();
   switch (shape) {

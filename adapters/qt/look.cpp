@@ -2,16 +2,83 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QFontMetrics>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QWidget>
+
+namespace {
+
+constexpr int Smallest_Text_px = 8;
+constexpr int Display_Margin_px = 1;  // beside the digits, on each side
+
+constexpr QColor Panel_Plate(0x28, 0x2c, 0x30);
+constexpr QColor Panel_Well(0x14, 0x17, 0x1a);
+constexpr QColor Panel_Button(0x3e, 0x44, 0x4a);
+constexpr QColor Panel_Letter(0xe4, 0xe8, 0xec);
+constexpr QColor Panel_Faint_Letter(0x7d, 0x85, 0x8c);
+constexpr QColor Panel_Chosen(0x1c, 0x7d, 0x8a);
+
+int Half_Way(int from, int to) { return (from + to) / 2; }
+
+// What cannot be used is lettered half way between ink and ground. The toolkit's own grey can hardly be read,
+// on dark desktops least of all.
+void Set_Faint_Lettering() {
+  const QPalette desktop = QApplication::palette();
+  QPalette faint;
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    const QColor ink = desktop.color(QPalette::Active, role);
+    const QColor ground = desktop.color(QPalette::Active, QPalette::Window);
+    faint.setColor(QPalette::Disabled, role,
+                   QColor(Half_Way(ink.red(), ground.red()), Half_Way(ink.green(), ground.green()),
+                          Half_Way(ink.blue(), ground.blue())));
+  }
+  QApplication::setPalette(faint);
+}
+
+// Message boxes have the same plain buttons as the program's own windows.
+struct Plain_Style final : QProxyStyle {
+  Plain_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+  }
+};
+
+}  // namespace
 
 void Set_Look() {
   // One style everywhere: others leave wider margins, which would cut the lettering in controls of fixed
   // sizes.
-  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication::setStyle(new Plain_Style);
+  Set_Faint_Lettering();
   QFont font = QApplication::font();
   font.setPixelSize(Text_Size_px);
   QApplication::setFont(font);
+}
+
+void Set_Panel_Colors(QWidget& widget) {
+  QPalette palette(Panel_Button, Panel_Plate);
+  palette.setColor(QPalette::Base, Panel_Well);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, Panel_Letter);
+    palette.setColor(QPalette::Disabled, role, Panel_Faint_Letter);
+  }
+  palette.setColor(QPalette::Highlight, Panel_Chosen);
+  palette.setColor(QPalette::HighlightedText, Panel_Letter);
+  if (widget.palette() != palette) widget.setPalette(palette);
+}
+
+QFont Display_Font(const QSize& display) {
+  QFont font = QApplication::font();
+  const int room = display.width() - 2 * Display_Margin_px;
+  for (int size_px = Text_Size_px; size_px >= Smallest_Text_px; --size_px) {
+    font.setPixelSize(size_px);
+    if (QFontMetrics(font).horizontalAdvance(QStringLiteral("000")) <= room) break;
+  }
+  return font;
 }
 
 void Set_Colors(QWidget& widget, bool own, const Color& fore, const Color& back) {

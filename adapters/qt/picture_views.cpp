@@ -110,7 +110,10 @@ void Line_View::Show_Values() {
   widget.update();
 }
 
+// An upright or level line fills its pixels, at any scaling of the screen; a stroke along their edge would
+// fall between those of the screen.
 void Line_View::Paint(QPainter& painter) {
+  if (shown_.dx() == 0 || shown_.dy() == 0) return painter.fillRect(widget.rect(), To_Qt(shown_color_));
   painter.setPen(To_Qt(shown_color_));
   painter.drawLine(shown_.translated(-widget.pos()));
 }

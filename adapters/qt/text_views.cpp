@@ -67,6 +67,7 @@ void Label_View::Show_Values() {
   shown.setAccessibleName(
       To_Qt(label.spoken_name.empty() ? Plain_Caption(label.caption()) : label.spoken_name));
   shown.setAutoFillBackground(label.own_colors());
+  if (label.own_colors()) shown.setFont(Display_Font(shown.size()));
   Set_Colors(shown, label.own_colors(), label.fore_color(), label.back_color());
 }
 
@@ -81,7 +82,6 @@ Text_Box_View::Text_Box_View(Shell& the_shell, Control& the_control, QWidget& pa
 
 void Text_Box_View::Listen(QLineEdit& line) {
   line.setReadOnly(Box().read_only);
-  if (Box().read_only) line.setCursor(Qt::ArrowCursor);
   if (Box().max_length > 0) line.setMaxLength(Box().max_length);
   const auto report = [this, &line] {
     const int start = line.hasSelectedText() ? line.selectionStart() : line.cursorPosition();

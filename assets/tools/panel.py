@@ -103,12 +103,12 @@ def Draw_Switch(picture, switch):
 
 
 def Draw_Knob(picture, knob):
-    """Marks around the body's middle over the whole turn, figures at its ends, title above."""
+    """Marks around the body's middle, figures at the ends of the turn in place of the last ones, title above."""
     x, y = knob.left + Knob_Middle[0], knob.top + Knob_Middle[1]
-    for step in range(-6, 7):
+    for step in range(-5, 6):
         angle = math.radians(knob.degrees * step / 6)
         dx, dy = math.sin(angle), -math.cos(angle)
-        main = step % 6 == 0
+        main = step == 0
         reach = 16.5 if main else 15.5
         picture.Lines(((x + 13.2 * dx, y + 13.2 * dy), (x + reach * dx, y + reach * dy)),
                       Scale if main else Scale_Faint, 1.1 if main else 0.9, cap="butt")

@@ -12,10 +12,16 @@ from svg import Svg
 from waves import Draw_Wave
 
 
+# The oscillator's sections: left, right, colour. The curve fills its section to the top, so an edge stands for the bar.
+Oscillator_Sections = ((2, 90, Bar_Lfo), (93, 229, Bar_Dco), (232, 384, Bar_Vcf))
+Oscillator_Edge = 2
+
+
 def Oscillator_Background():
     picture = New_Panel(386, 165)
-    for corners in (Box(2, 2, 90, 163), Box(93, 2, 229, 163), Box(232, 2, 384, 163)):
-        Draw_Plate(picture, corners)
+    for left, right, color in Oscillator_Sections:
+        Draw_Plate(picture, Box(left, 2, right, 163))
+        picture.Rect(left, 1, right - left, Oscillator_Edge, color)
     for left, title in Oscillator_Bars:
         Write_Centred(picture, title, left + 7.5, 8, Letter, Narrow)
         Draw_Recess(picture, left, 22, 15, 100)

@@ -141,6 +141,29 @@ TEST_F(Desk, The_User_Moves_Activates_And_Closes_By_The_Title_Bar) {
   EXPECT_EQ(Active_Form(), &other);
 }
 
+TEST_F(Desk, No_Line_Falls_Between_The_Pixels_Of_A_Scaled_Screen) {
+  constexpr int count = 8;
+  std::vector<std::unique_ptr<Line>> lines;
+  for (int place = 0; place < count; ++place) {
+    lines.push_back(std::make_unique<Line>(panel, "Line"));
+    lines.back()->Set(10 + 7 * place, 10, 10 + 7 * place, 30);
+    lines.back()->color = {0, 255, 0};
+  }
+  Show_Windows();
+  QWidget& body = Widget("PANEL");
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+    QImage seen(body.size() * ratio, QImage::Format_RGB32);
+    seen.setDevicePixelRatio(ratio);
+    body.render(&seen);
+    int seen_lines = 0;
+    const auto green = [&](int x) {
+      return seen.pixelColor(x, static_cast<int>(20 * ratio)) == QColor(0, 255, 0);
+    };
+    for (int x = 1; x < seen.width(); ++x) seen_lines += green(x) && !green(x - 1);
+    EXPECT_EQ(seen_lines, count) << ratio;
+  }
+}
+
 TEST(Pictures, Are_Sharp_At_Any_Pixel_Ratio_And_A_Missing_One_Is_Told_Once) {
   const QTemporaryDir directory;
   QFile file(directory.filePath("mark.svg"));
