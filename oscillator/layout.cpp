@@ -65,6 +65,7 @@ void Lay_Bars() {
 
 void Lay_Lights() {
   Lay_Light(Oscillator.Osc_Invert, 234, 52);
+  Oscillator.Osc_Invert.role = Role::Check_Light;
   Name_Element(Oscillator.Osc_Invert, Invert_Tab, 0, "Invert");
   for (int wave = 0; wave < Osc_Waves; ++wave) {
     const auto place = static_cast<std::size_t>(wave);

@@ -130,6 +130,14 @@ void Line::Set(int from_x, int from_y, int to_x, int to_y) {
   y2 = to_y;
 }
 
+std::string Spoken_Value(const Control& control) {
+  if (control.spoken_value) return control.spoken_value();
+  if (control.kind != Kind::Picture_Box) return {};
+  const auto& is_on = static_cast<const Picture_Box&>(control).is_on;
+  if (!is_on) return {};
+  return is_on() ? "on" : "off";
+}
+
 bool Shown_In_Form(const Control& control) {
   for (const Control* part = &control; part != nullptr; part = part->container) {
     if (!part->visible()) return false;
@@ -145,6 +153,7 @@ bool Enabled_In_Form(const Control& control) {
 }
 
 bool Can_Take_Focus(const Control& control) {
-  const bool display_only = control.kind == Kind::Label || control.kind == Kind::Line || control.kind == Kind::Frame_Box;
+  const bool display_only =
+      control.kind == Kind::Label || control.kind == Kind::Line || control.kind == Kind::Frame_Box;
   return !display_only && control.tab_index >= 0 && Shown_In_Form(control) && Enabled_In_Form(control);
 }

@@ -1,6 +1,6 @@
 // The control kinds that windows are made of, as plain data.
-// The program reads and writes properties and fills event slots; a desktop shows the properties and hands the user's
-// events in through input.h. All places and sizes are whole pixels of the container.
+// The program reads and writes properties and fills event slots; a desktop shows the properties and hands the
+// user's events in through input.h. All places and sizes are whole pixels of the container.
 #pragma once
 
 #include <functional>
@@ -30,8 +30,17 @@ enum class Kind {
   Frame_Box,
 };
 
-// What a screen reader calls a Picture_Box that can be worked.
-enum class Role { Picture, Slider, Switch, Knob, Button, Light };
+// What a screen reader calls a Picture_Box that can be worked. A check light is on or off by itself; of a row
+// of choice lights one is on.
+enum class Role { Picture, Slider, Switch, Knob, Button, Check_Light, Choice_Light };
+
+// The value of a slider, switch or knob as a number, in the units that the panel shows.
+struct Scale {
+  int lowest = 0;
+  int highest = 0;  // as lowest: the element has no number
+  int page = 1;     // the page keys move it by no more than this
+  std::function<int()> value;
+};
 
 struct Control : Component {
   Control(Form& owner_form, Kind control_kind, std::string_view control_name);
@@ -49,9 +58,10 @@ struct Control : Component {
   Property<std::string> tag;
   Property<std::string> tool_tip;
 
-  int tab_index = -1;    // place in the order of Tab; -1: takes no focus. A label never does: its access key goes on
-  int help_context = 0;  // 0: none
-  bool mouse_through = false;  // presses on it count as presses on its container
+  int tab_index =
+      -1;  // place in the order of Tab; -1: takes no focus. A label never does: its access key goes on
+  int help_context = 0;                       // 0: none
+  bool mouse_through = false;                 // presses on it count as presses on its container
   std::string spoken_name;                    // in plain words, "VCF cutoff frequency"
   std::function<std::string()> spoken_value;  // its value with its meaning; may be empty
 
@@ -64,10 +74,14 @@ struct Control : Component {
 // A picture, or the background of other controls that lie on it.
 struct Picture_Box final : Control {
   template <class Owner>
-  Picture_Box(Owner& owner, std::string_view control_name) : Control(owner, Kind::Picture_Box, control_name) {}
+  Picture_Box(Owner& owner, std::string_view control_name)
+      : Control(owner, Kind::Picture_Box, control_name) {}
 
   Property<Picture> picture{*this};
   Role role = Role::Picture;
+  bool blinks = false;          // its picture tells that it has the focus; the others get a frame
+  Scale scale;                  // of a slider, switch or knob
+  std::function<bool()> is_on;  // of a light
 };
 
 enum class Alignment { Left, Center, Right };
@@ -98,9 +112,9 @@ struct Text_Box final : Control {
   void Select_All();
 
   Property<std::string> text{*this};  // read it; write it through Set_Text where a change handler matters
-  Property<int> selection_start{*this, 0};   // in characters
+  Property<int> selection_start{*this, 0};  // in characters
   Property<int> selection_length{*this, 0};
-  Property<std::string> font_face{*this};    // empty: the desktop's
+  Property<std::string> font_face{*this};  // empty: the desktop's
   Property<Color> fore_color{*this, Black};
   Property<Color> back_color{*this, White};
   Property<bool> own_colors{*this, false};
@@ -112,7 +126,8 @@ struct Text_Box final : Control {
 
 struct Command_Button final : Control {
   template <class Owner>
-  Command_Button(Owner& owner, std::string_view control_name) : Control(owner, Kind::Command_Button, control_name) {}
+  Command_Button(Owner& owner, std::string_view control_name)
+      : Control(owner, Kind::Command_Button, control_name) {}
 
   Property<std::string> caption{*this};
   bool is_default = false;  // Enter clicks it
@@ -154,7 +169,8 @@ struct List_Control : Control {
 
 struct Combo_Box final : List_Control {  // a drop-down list
   template <class Owner>
-  Combo_Box(Owner& owner, std::string_view control_name) : List_Control(owner, Kind::Combo_Box, control_name) {}
+  Combo_Box(Owner& owner, std::string_view control_name)
+      : List_Control(owner, Kind::Combo_Box, control_name) {}
 };
 
 struct List_Box final : List_Control {
@@ -219,6 +235,9 @@ struct Frame_Box final : Control {  // groups the controls that lie on it
 
   Property<std::string> caption{*this};
 };
+
+// The value in words, with its meaning; empty for none.
+std::string Spoken_Value(const Control& control);
 
 // Whether the control and everything that it lies on is visible, or enabled.
 bool Shown_In_Form(const Control& control);

@@ -37,7 +37,7 @@ def main():
         screen, wire = session.screen, session.wire
         panel_top = screen.place(Lower_panel[0])[1] - Lower_panel[1]
         screen.menu("MIDI", "Oscillator...")
-        screen.choose("DCO1 LFO Mod Depth", "VCF Cutoff")
+        screen.choose("Target", "VCF Cutoff")
         set_step_time_to_1_ms(screen)
 
         screen.click("Start oscillator")

@@ -75,7 +75,7 @@ def knob(session):
     assert steps[0] == 0
     check_drag(steps, lambda _, place: place, allowed)
     assert values[-1] == lowest_bytes[5] == 88
-    assert session.screen.value("DCO 1 tune") == "5 semitones"
+    assert session.screen.value("DCO 1 tune") == "plus 5 semitones"
 
 
 def switch(session):

@@ -36,6 +36,7 @@ def main():
         draw(screen)
         while screen.number("Tempo, sequences a minute") < 120:
             screen.click("Tempo, sequences a minute", at=(112, 7))
+        assert screen.value("Note matrix").startswith("step 1: C strong; step 2: E strong; step 3: G soft, upper C strong")
         session.screenshot("drawn")
 
         screen.click("Sequencer > Start sequencer")

@@ -34,7 +34,7 @@ class Evening:
         self.screen.type("synth:in")
         self.screen.key("Tab")
         self.screen.type("synth:out")
-        self.screen.wait_for("synth:out")
+        wait_until(lambda: self.screen.value("MIDI input device") == "synth:out", "the choice")
         self.station("setup")
         self.screen.click("OK")
         assert self.screen.box().startswith("Please don't forget to enable the MIDI System Exclusive (SysEx)")

@@ -35,7 +35,7 @@ def main():
     with Session("sweep") as session:
         screen = session.screen
         screen.menu("MIDI", "Oscillator...")
-        screen.choose("DCO1 LFO Mod Depth", "VCF Cutoff")
+        screen.choose("Target", "VCF Cutoff")
         for _ in range(9):  # presses below the thumb, 50 ms each
             screen.click("Step time in milliseconds", at=(7, 82))
         screen.wait_for("Oscillator > 50")  # the label below the bar

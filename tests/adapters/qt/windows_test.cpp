@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QFocusFrame>
 #include <QListWidget>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -155,22 +156,49 @@ TEST_F(Desk, A_Lists_Index_Is_The_Pressed_Row_When_The_Press_Is_Told) {
   EXPECT_EQ(rows.count(), 1);
 }
 
-TEST_F(Desk, Assistive_Programs_Find_Elements_By_Name_And_Step_Them) {
+QList<QFocusFrame*> Frames() {
+  QList<QFocusFrame*> shown = Desk::Widget("PANEL").findChildren<QFocusFrame*>();
+  shown.removeIf([](const QFocusFrame* frame) { return frame->isHidden(); });
+  return shown;
+}
+
+TEST_F(Desk, Assistive_Programs_Find_Elements_By_Name_And_Move_Them) {
+  int value = 40;
   knob.role = Role::Slider;
   knob.spoken_name = "VCF cutoff frequency";
-  knob.spoken_value = [] { return "64"; };
-  knob.on_key_down = [&](Key_Event& key) { Note("key " + std::to_string(key.code)); };
+  knob.spoken_value = [&] { return std::to_string(value) + " percent"; };
+  knob.scale = {0, 99, 13, [&] { return value; }};
+  knob.on_key_down = [&](Key_Event& key) {
+    Note("key " + std::to_string(key.code));
+    value += key.code == Key::Page_Up ? 13 : key.code == Key::Up ? 1 : -1;
+  };
   Show_Windows();
   QAccessibleInterface* element = QAccessible::queryAccessibleInterface(&Widget("Knob"));
   ASSERT_NE(element, nullptr);
   EXPECT_EQ(element->text(QAccessible::Name), "VCF cutoff frequency");
-  EXPECT_EQ(element->text(QAccessible::Value), "64");
+  EXPECT_EQ(element->text(QAccessible::Description), "40 percent");
   EXPECT_EQ(element->role(), QAccessible::Slider);
   EXPECT_TRUE(element->state().focusable);
   EXPECT_EQ(element->rect().size(), QSize(16, 16));
   element->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
   element->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
-  EXPECT_EQ(log, (std::vector<std::string>{"key 38", "key 40"}));
+  element->valueInterface()->setCurrentValue(55.0);
+  EXPECT_EQ(log, (std::vector<std::string>{"key 38", "key 40", "key 33", "key 38", "key 38"}));
+  EXPECT_EQ(element->valueInterface()->currentValue().toInt(), 55);
+  panel.enabled = false;
+  element->valueInterface()->setCurrentValue(0.0);
+  EXPECT_EQ(value, 55) << "a locked window";
+  EXPECT_TRUE(element->state().disabled);
+}
+
+TEST_F(Desk, A_Frame_Marks_The_Focus_Where_Nothing_Blinks) {
+  knob.blinks = true;
+  Show_Windows();
+  Set_Focus(knob);
+  EXPECT_TRUE(Frames().isEmpty());
+  Set_Focus(lever);
+  ASSERT_EQ(Frames().size(), 1);
+  EXPECT_TRUE(Frames()[0]->geometry().contains(Widget("Lever").geometry()));
 }
 
 }  // namespace
