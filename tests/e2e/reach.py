@@ -78,7 +78,7 @@ def hear_a_key(screen, wire):
     wire.take_to(tone(34, 64))
     screen.key("Up")
     wire.expect(tone(34, 65))
-    wait_until(lambda: GLib.MainContext.default().iteration(False) or len(heard) > 1, f"news: {heard}")
+    wait_until(lambda: (GLib.MainContext.default().iteration(False), len(heard) > 1)[1], lambda: f"news: {heard}")
     assert set(heard) == {"VCF cutoff frequency"}, heard
     listener.deregister("object:property-change:accessible-value")
 
@@ -93,6 +93,7 @@ def main():
             screen.menu(*path)
             if title == "Open Tone File":
                 assert screen.box() == "Save actual TONE first?"
+                assert any(node.get_role_name() == "alert" and node.get_name() for node in shown(screen.application))
                 screen.answer("No")
             check_window(screen, title, wanted)
             if title in ("MELVOR Help", "Open Tone File"):

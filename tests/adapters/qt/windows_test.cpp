@@ -199,6 +199,8 @@ TEST_F(Desk, A_Frame_Marks_The_Focus_Where_Nothing_Blinks) {
   Set_Focus(lever);
   ASSERT_EQ(Frames().size(), 1);
   EXPECT_TRUE(Frames()[0]->geometry().contains(Widget("Lever").geometry()));
+  Set_Focus(knob);
+  EXPECT_TRUE(Frames().isEmpty());
 }
 
 }  // namespace
