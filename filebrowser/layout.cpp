@@ -117,12 +117,13 @@ void Place_Folder_Buttons(int& tab) {
       tab);
 }
 
-void Place_Light(Picture_Box& light, int top, std::string_view spoken, std::string_view tip, int& tab) {
+void Place_Light(Picture_Box& light, Role role, int top, std::string_view spoken, std::string_view tip,
+                 int& tab) {
   Place_All({{light, 12, top, Light_px, Light_px, spoken, tip}}, tab);
-  light.role = Role::Light;
+  light.role = role;
   light.picture = LED(LED_Dark);
   light.tag = "0";
-  light.spoken_value = [&light] { return Check_Is_On(light) ? "on" : "off"; };
+  light.is_on = [&light] { return Check_Is_On(light); };
 }
 
 // The words beside a light work it too.
@@ -136,16 +137,19 @@ void Place_Light_Label(Label& label, Picture_Box& light, std::string_view captio
 
 void Place_Tone_Panel(int& tab) {
   File_Dlg_Window& d = File_Dlg;
-  Place_Light(d.FD_SYX_CB_Autosend, 28, "Send clicked tones", "Send a clicked tone to the instrument", tab);
-  Place_Light(d.FD_SYX_CB_Autoplay, 52, "Play clicked tones", "Let a clicked tone be heard", tab);
-  Place_Light(d.FD_SYX_OB_Soundcheck[0], 88, "Play a note", "Play this note", tab);
+  Place_Light(d.FD_SYX_CB_Autosend, Role::Check_Light, 28, "Send clicked tones",
+              "Send a clicked tone to the instrument", tab);
+  Place_Light(d.FD_SYX_CB_Autoplay, Role::Check_Light, 52, "Play clicked tones",
+              "Let a clicked tone be heard", tab);
+  Place_Light(d.FD_SYX_OB_Soundcheck[0], Role::Choice_Light, 88, "Play a note", "Play this note", tab);
   Place_All(
       {
           {d.FD_SYX_SoundCheck_Note_List, 86, 109, 56, Small_Field_Height_px, "Note", ""},
           {d.FD_SYX_SoundCheck_Velocity_List, 86, 133, 56, Small_Field_Height_px, "Velocity", ""},
       },
       tab);
-  Place_Light(d.FD_SYX_OB_Soundcheck[1], 170, "Play the sequence", "Play the sequence in memory", tab);
+  Place_Light(d.FD_SYX_OB_Soundcheck[1], Role::Choice_Light, 170, "Play the sequence",
+              "Play the sequence in memory", tab);
   Place_Small_Buttons(
       {
           {d.FD_SYX_Button_Start, d.FD_SYX_Button_Start_Pic, Start_Enabled, 34, 192, "Start sequence",
@@ -162,7 +166,8 @@ void Place_Tone_Panel(int& tab) {
 
 void Place_Sequence_Panel(int& tab) {
   File_Dlg_Window& d = File_Dlg;
-  Place_Light(d.FD_SEQ_CB_Autoplay, 28, "Play clicked sequences", "Play a clicked sequence", tab);
+  Place_Light(d.FD_SEQ_CB_Autoplay, Role::Check_Light, 28, "Play clicked sequences",
+              "Play a clicked sequence", tab);
   Place_Light_Label(d.FD_SEQ_CB_Autoplay_Label, d.FD_SEQ_CB_Autoplay, "Auto&Play");
   d.FD_SEQ_Preview.Place(43, 60, 66, 106);
   d.FD_SEQ_Preview.spoken_name = "Matrix of the clicked sequence";

@@ -5,6 +5,7 @@
 
 #include "panel/element_rules.h"
 #include "panel/elements.h"
+#include "panel/meanings.h"
 #include "platform/convert.h"
 #include "windows/focus_mark.h"
 #include "windows/frame_window.h"
@@ -174,7 +175,7 @@ void Wire_Light(int item) {
   };
   light.on_key_down = [](Key_Event& key) { Light_Key(key); };
   light.on_click = [item] { Light_Click(item); };
-  light.spoken_value = [item] { return std::string(item == Help_LED_Sel ? "on" : "off"); };
+  light.is_on = [item] { return item == Help_LED_Sel; };
 }
 
 struct Example_Row {
@@ -190,6 +191,7 @@ void Assign(const Example_Row& row) {
   row.element.tag = std::string(row.tag);
   row.element.picture = row.picture;
   row.element.role = row.role;
+  row.element.blinks = true;
   row.element.tab_index = row.tab;
   row.element.spoken_name = row.spoken;
 }
@@ -205,10 +207,10 @@ void Help_Layout() {
                        "Example position switch"},
            Example_Row{Help.Slider, "bm", Buttons(Slider_Cap), Role::Slider, 9, "Example slider"},
            Example_Row{Help.Switch, "br", Buttons(Cap_Right_Lamp), Role::Switch, 10, "Example switch"},
-           Example_Row{Help.LED_SW[0], "led", LED(LED_Dark), Role::Light, 11, "Example light A"},
-           Example_Row{Help.LED_SW[1], "led", LED(LED_Dark), Role::Light, 12, "Example light B"},
-           Example_Row{Help.LED_SW[2], "led", LED(LED_Dark), Role::Light, 13, "Example light C"},
-           Example_Row{Help.LED_SW[3], "led", LED(LED_Dark), Role::Light, 14, "Example light D"},
+           Example_Row{Help.LED_SW[0], "led", LED(LED_Dark), Role::Choice_Light, 11, "Example light A"},
+           Example_Row{Help.LED_SW[1], "led", LED(LED_Dark), Role::Choice_Light, 12, "Example light B"},
+           Example_Row{Help.LED_SW[2], "led", LED(LED_Dark), Role::Choice_Light, 13, "Example light C"},
+           Example_Row{Help.LED_SW[3], "led", LED(LED_Dark), Role::Choice_Light, 14, "Example light D"},
            Example_Row{Help.Tune, "knh", Buttons(Knob_Body), Role::Knob, 15, "Example knob"},
            Example_Row{Help.Tune_Knopf, "knh", Buttons(Knob_Dot), Role::Knob, 16, "Example knob dot"},
        }) {
@@ -242,10 +244,11 @@ void Help_Examples_Wire() {
   Wire_Tune();
   Wire_Switch();
   for (int item = 0; item < Help_Lights; ++item) Wire_Light(item);
-  Help.Pos_Sw.spoken_value = [] { return Shown(Demo_Pos_Sw); };
-  Help.Slider.spoken_value = [] { return Shown(Demo_Slider); };
-  Help.Switch.spoken_value = [] { return Shown(Demo_Switch); };
+  Tell_Position(Help.Pos_Sw, {"position 4", "position 3", "position 2", "position 1"},
+                [] { return Help_Demo[Demo_Pos_Sw] / 32; });
+  Tell_99(Help.Slider, Page_Of_Slider, [] { return int{Help_Demo[Demo_Slider]}; });
+  Tell_Position(Help.Switch, {"off", "on"}, [] { return Help_Demo[Demo_Switch] / Half; });
   for (Picture_Box* knob : {&Help.Tune, &Help.Tune_Knopf}) {
-    knob->spoken_value = [] { return Shown(Demo_Tune) + " semitones"; };
+    Tell_Semitones(*knob, [] { return int{Help_Demo[Demo_Tune]}; });
   }
 }

@@ -72,6 +72,7 @@ void Name_With_Tip(Picture_Box& element, int tab, std::string_view name) {
 
 void Lay_Lights() {
   Lay_Light(Oscillator.Osc_Invert, 234, 52);
+  Oscillator.Osc_Invert.role = Role::Check_Light;
   Name_Element(Oscillator.Osc_Invert, Invert_Tab, 0, "Invert");
   Oscillator.Osc_Invert.tool_tip = "Turns the curve upside down";
   for (int wave = 0; wave < Osc_Waves; ++wave) {

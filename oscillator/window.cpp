@@ -116,11 +116,11 @@ void Wire_Lights() {
     Picture_Box& light = Oscillator.Osc_Wave[static_cast<std::size_t>(wave)];
     light.on_click = [wave] { Wave_Click(wave); };
     light.on_double_click = Wave_Double_Click;
-    light.spoken_value = [&light] { return light.picture() == LED(LED_Dark) ? "off" : "on"; };
+    light.is_on = [&light] { return light.picture() != LED(LED_Dark); };
     Wire_Space(light);
   }
   Oscillator.Osc_Invert.on_click = Invert_Click;
-  Oscillator.Osc_Invert.spoken_value = [] { return Is_Inverted() ? "on" : "off"; };
+  Oscillator.Osc_Invert.is_on = Is_Inverted;
   Wire_Space(Oscillator.Osc_Invert);
 }
 

@@ -8,6 +8,7 @@
 #include "core/tone_params.h"
 #include "panel/editor_tables.h"
 #include "panel/element_rules.h"
+#include "panel/meanings.h"
 #include "platform/convert.h"
 #include "windows/focus_mark.h"
 #include "windows/state.h"
@@ -34,7 +35,7 @@ void Wire_Slider(const Slider_Row& row) {
   element.on_mouse_move = [&row](const Mouse_Event& event) {
     if (event.button != 0) Slider_Drag(row.range, event.y);
   };
-  element.spoken_value = [&row] { return std::to_string(Shown_99(Tone[row.range.index])); };
+  Tell_99(element, Page_Of_Slider, [&row] { return int{Tone[row.range.index]}; });
 }
 
 int Band_Of(Bands bands, int value) {
@@ -56,9 +57,8 @@ void Wire_Switch(const Switch_Row& row) {
   element.on_mouse_move = [&row](const Mouse_Event& event) {
     if (event.button != 0) Switch_Drag(row.range, event.y);
   };
-  element.spoken_value = [&row] {
-    return std::string(row.positions[static_cast<std::size_t>(Band_Of(row.bands, Tone[row.range.index]))]);
-  };
+  Tell_Position(element, {row.positions.begin(), row.positions.end()},
+                [&row] { return Band_Of(row.bands, Tone[row.range.index]); });
 }
 
 void Wire_Knob(const Knob_Row& row) {
@@ -70,11 +70,8 @@ void Wire_Knob(const Knob_Row& row) {
     element->on_mouse_move = [&row](const Mouse_Event& event) {
       if (event.button != 0) Knob_Drag(row.index, event.x);
     };
-    element->spoken_value = [&row] {
-      const int value = Tone[row.index];
-      if (row.index == Index_DCO2_FTune) return std::to_string(Bipolar_50(value));
-      return std::to_string(Semitone_12(value)) + " semitones";
-    };
+    const auto tell = row.index == Index_DCO2_FTune ? Tell_Bipolar : Tell_Semitones;
+    tell(*element, [&row] { return int{Tone[row.index]}; });
   }
 }
 

@@ -78,6 +78,7 @@ void Assign_Others() {
 
 void Pics_Assign() {
   Editor.Back_Pic.picture = Editor_Background;
+  Editor.Back_Pic.spoken_name = "Tone panel";
   Editor.Back_Pic.Place(0, 0, Editor_Width_px, Editor_Height_px);
   Assign_Sliders();
   Assign_Switches();

@@ -22,6 +22,7 @@ void Lay_Slider(Picture_Box& element, int left, int top) {
   element.picture = Buttons(Slider_Cap);
   element.tag = "bm";
   element.role = Role::Slider;
+  element.blinks = true;
   element.Place(left, top, Cap_Size_px, Cap_Size_px);
 }
 
@@ -29,12 +30,13 @@ void Lay_Switch(Picture_Box& element, std::string_view tag, int left, int top) {
   element.picture = Buttons(tag == "bl" ? Cap_Left_Lamp : Cap_Right_Lamp);
   element.tag = std::string(tag);
   element.role = Role::Switch;
+  element.blinks = true;
   element.Place(left, top, Cap_Size_px, Cap_Size_px);
 }
 
 void Lay_Light(Picture_Box& light, int left, int top) {
   light.picture = LED(LED_Dark);
-  light.role = Role::Light;
+  light.role = Role::Choice_Light;
   light.Place(left, top, Light_Size_px, Light_Size_px);
 }
 
@@ -42,10 +44,12 @@ void Lay_Knob(Picture_Box& body, Picture_Box& dot, std::string_view tag, int lef
   body.picture = Buttons(Knob_Body);
   body.tag = std::string(tag);
   body.role = Role::Knob;
+  body.blinks = true;
   body.Place(left, top, Knob_Width_px, Knob_Height_px);
   dot.picture = Buttons(Knob_Dot);
   dot.tag = std::string(tag);
   dot.role = Role::Knob;
+  dot.blinks = true;
   dot.Place(Dot_Left_px, dot_top, Dot_Size_px, Dot_Size_px);
 }
 

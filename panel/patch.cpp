@@ -10,6 +10,7 @@
 #include "midi/state.h"
 #include "panel/element_rules.h"
 #include "panel/elements.h"
+#include "panel/meanings.h"
 #include "panel/patch_knob.h"
 #include "panel/patch_lights.h"
 #include "panel/patch_switches.h"
@@ -55,7 +56,7 @@ void Wire_Slider(const Patch_Slider& slider) {
   element.on_mouse_move = [&slider](const Mouse_Event& event) {
     if (event.button != 0) Patch_Slider_Set(slider, Slider_Drag_Value(Patch_Rec[slider.index], event.y));
   };
-  element.spoken_value = [&slider] { return std::to_string(Shown_99(Patch_Rec[slider.index])); };
+  Tell_99(element, Page_Of_Patch_Slider, [&slider] { return int{Patch_Rec[slider.index]}; });
 }
 
 int Detune() { return Patch_Rec[Patch_Index_UDTune]; }

@@ -1,9 +1,8 @@
 #include "panel/patch_knob.h"
 
-#include <string>
-
 #include "core/records.h"
 #include "panel/element_rules.h"
+#include "panel/meanings.h"
 #include "platform/convert.h"
 #include "windows/focus_mark.h"
 
@@ -27,5 +26,5 @@ void Wire_Patch_Knob(const Patch_Knob& knob, Picture_Box& element, int (*key_val
     const int moved = Knob_Drag_Value(knob.value(), Fine_Drag_Units(event.x));
     Turn(knob, Clamp(moved, 0, Value_Limit), knob.drag_circle);
   };
-  element.spoken_value = [knob] { return std::to_string(Bipolar_50(knob.value())); };
+  Tell_Bipolar(element, knob.value);
 }

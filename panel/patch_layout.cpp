@@ -22,6 +22,7 @@ void Lay_Group_Item(Picture_Box& light, int left, int row, int tab, std::string_
                     std::string_view item) {
   Lay_Light(light, left, Lights_Top_px + Light_Row_px * row);
   light.tag = "led";
+  light.blinks = true;
   Name_Element(light, tab, 0, std::string(group) + std::string(item));
 }
 

@@ -89,7 +89,7 @@ void Wire_Item(const Light_Group& group, int item) {
   light.on_lost_focus = Ctl_Deselect;
   light.on_click = [&group, item] { Choose_Item(group, item); };
   light.on_key_down = [&group](Key_Event& key) { Group_Key(group, key); };
-  light.spoken_value = [&group, item] { return Patch_Control_Top(group.index) == item ? "on" : "off"; };
+  light.is_on = [&group, item] { return Patch_Control_Top(group.index) == item; };
 }
 
 }  // namespace

@@ -65,6 +65,7 @@ void Lay_Group(std::array<Picture_Box, count>& lights, int left, int top, int ro
   for (Picture_Box& light : lights) {
     Lay_Light(light, left, top);
     light.tag = "led";
+    light.blinks = true;
     Name_Element(light, No_Tab, 0, spoken);
     top += row_px;
   }

@@ -1,12 +1,10 @@
 #include "panel/patch_switches.h"
 
-#include <array>
-#include <string>
-
 #include "core/records.h"
 #include "core/sysex.h"
 #include "panel/element_rules.h"
 #include "panel/elements.h"
+#include "panel/meanings.h"
 #include "panel/patch.h"
 #include "platform/convert.h"
 #include "windows/focus_mark.h"
@@ -17,7 +15,6 @@ namespace {
 
 constexpr int Band = 32;
 constexpr int Placed_Part_Of_Band = 16;  // the cap follows a drag in the lower half of a band alone
-constexpr std::array<std::string_view, 4> Bend_Ranges{"2", "3", "4", "7"};
 
 // No index is 0 before the first drag, so that its first step is not sent.
 Drag_Memory last_drag{0, -1};
@@ -91,11 +88,8 @@ void Patch_Switches_Wire() {
   range.on_mouse_move = [](const Mouse_Event& event) {
     if (event.button != 0) Bend_Range_Drag(event.y);
   };
-  range.spoken_value = [] {
-    const int position =
-        Clamp(Patch_Rec[Patch_Bend_Range] / Band, 0, static_cast<int>(Bend_Ranges.size()) - 1);
-    return std::string(Bend_Ranges[static_cast<std::size_t>(position)]);
-  };
+  Tell_Position(range, {"2 semitones", "3 semitones", "4 semitones", "7 semitones"},
+                [] { return Patch_Rec[Patch_Bend_Range] / Band; });
 
   Picture_Box& portamento = Patch.Portamento_Switch;
   Wire_Focus(portamento);
@@ -103,5 +97,5 @@ void Patch_Switches_Wire() {
     if (Direction_Of(key.code) != Direction::None) Portamento_Toggle();
   };
   portamento.on_mouse_down = [](const Mouse_Event&) { Portamento_Toggle(); };
-  portamento.spoken_value = [] { return Patch_Rec[Patch_Portamento_Switch] < Portamento_On ? "off" : "on"; };
+  Tell_Position(portamento, {"off", "on"}, [] { return Patch_Rec[Patch_Portamento_Switch] / Portamento_On; });
 }

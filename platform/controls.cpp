@@ -108,6 +108,14 @@ void Line::Set(int from_x, int from_y, int to_x, int to_y) {
   y2 = to_y;
 }
 
+std::string Spoken_Value(const Control& control) {
+  if (control.spoken_value) return control.spoken_value();
+  if (control.kind != Kind::Picture_Box) return {};
+  const auto& is_on = static_cast<const Picture_Box&>(control).is_on;
+  if (!is_on) return {};
+  return is_on() ? "on" : "off";
+}
+
 bool Shown_In_Form(const Control& control) {
   for (const Control* part = &control; part != nullptr; part = part->container) {
     if (!part->visible()) return false;

@@ -30,8 +30,17 @@ enum class Kind {
   Frame_Box,
 };
 
-// What a screen reader calls a Picture_Box that can be worked.
-enum class Role { Picture, Slider, Switch, Knob, Button, Light };
+// What a screen reader calls a Picture_Box that can be worked. A check light is on or off by itself; of a row
+// of choice lights one is on.
+enum class Role { Picture, Slider, Switch, Knob, Button, Check_Light, Choice_Light };
+
+// The value of a slider, switch or knob as a number, in the units that the panel shows.
+struct Scale {
+  int lowest = 0;
+  int highest = 0;  // as lowest: the element has no number
+  int page = 1;     // the page keys move it by no more than this
+  std::function<int()> value;
+};
 
 struct Control : Component {
   Control(Form& owner_form, Kind control_kind, std::string_view control_name);
@@ -70,6 +79,9 @@ struct Picture_Box final : Control {
 
   Property<Picture> picture{*this};
   Role role = Role::Picture;
+  bool blinks = false;          // its picture tells that it has the focus; the others get a frame
+  Scale scale;                  // of a slider, switch or knob
+  std::function<bool()> is_on;  // of a light
 };
 
 enum class Alignment { Left, Center, Right };
@@ -223,6 +235,9 @@ struct Frame_Box final : Control {  // groups the controls that lie on it
 
   Property<std::string> caption{*this};
 };
+
+// The value in words, with its meaning; empty for none.
+std::string Spoken_Value(const Control& control);
 
 // Whether the control and everything that it lies on is visible, or enabled.
 bool Shown_In_Form(const Control& control);

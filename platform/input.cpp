@@ -1,5 +1,7 @@
 #include "platform/input.h"
 
+#include <algorithm>
+
 #include "platform/dispatch.h"
 #include "platform/text.h"
 
@@ -47,10 +49,14 @@ bool Run_Shortcut(const Form& form, const Key_Event& key) {
 
 std::string_view Caption_Of(const Control& control) {
   switch (control.kind) {
-    case Kind::Label: return static_cast<const Label&>(control).caption();
-    case Kind::Command_Button: return static_cast<const Command_Button&>(control).caption();
-    case Kind::Check_Box: return static_cast<const Check_Box&>(control).caption();
-    default: return {};
+    case Kind::Label:
+      return static_cast<const Label&>(control).caption();
+    case Kind::Command_Button:
+      return static_cast<const Command_Button&>(control).caption();
+    case Kind::Check_Box:
+      return static_cast<const Check_Box&>(control).caption();
+    default:
+      return {};
   }
 }
 
@@ -99,6 +105,25 @@ Mouse_Target Target(Control& pressed, Mouse_Event event) {
     control = control->container;
   }
   return {*control, event};
+}
+
+// More keys than any way from one end of a scale to the other needs.
+constexpr int Most_Keys = 128;
+
+bool Can_Work(const Control& control) {
+  return control.form.Loaded() && control.form.enabled() && Shown_In_Form(control) &&
+         Enabled_In_Form(control);
+}
+
+// The arrow keys do nothing on some knobs.
+int Step_Key(const Picture_Box& element, bool upwards) {
+  if (element.role == Role::Knob) return upwards ? Key::Keypad_Plus : Key::Keypad_Minus;
+  return upwards ? Key::Up : Key::Down;
+}
+
+void Press_Key(Picture_Box& element, int key_code) {
+  User_Focused(element);
+  Key_Down(element.form, &element, {key_code, 0}, 0);
 }
 
 bool Ordinary_Work(Form& form, Control* control, const Key_Event& key) {
@@ -200,6 +225,35 @@ void User_Typed(Text_Box& box, std::string_view text, int selection_start, int s
     box.selection_start = selection_start;
     box.selection_length = selection_length;
   });
+}
+
+void User_Stepped(Picture_Box& element, bool upwards) {
+  if (Can_Work(element)) Press_Key(element, Step_Key(element, upwards));
+}
+
+// The ends have keys of their own, which reach the last byte too. The way ends where the keys pass the value:
+// not every number can be reached.
+void User_Turned(Picture_Box& element, int value) {
+  const Scale& scale = element.scale;
+  if (scale.lowest == scale.highest || !Can_Work(element)) return;
+  const int wanted = std::clamp(value, scale.lowest, scale.highest);
+  const bool upwards = wanted > scale.value();
+  const auto away = [&] { return upwards ? wanted - scale.value() : scale.value() - wanted; };
+  if (away() > 0 && wanted == scale.highest) Press_Key(element, Key::Home);
+  if (away() > 0 && wanted == scale.lowest) Press_Key(element, Key::End);
+  for (int keys = 0; keys < Most_Keys && Can_Work(element) && away() > 0; ++keys) {
+    if (away() >= scale.page) {
+      Press_Key(element, upwards ? Key::Page_Up : Key::Page_Down);
+    } else {
+      Press_Key(element, Step_Key(element, upwards));
+    }
+  }
+}
+
+void User_Pressed(Control& control, const Mouse_Event& place) {
+  if (!Can_Work(control)) return;
+  Mouse_Down(control, place);
+  if (control.form.Loaded()) Mouse_Up(control, place, true);
 }
 
 void User_Focused(Control& control) {

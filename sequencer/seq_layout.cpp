@@ -2,6 +2,7 @@
 #include <string>
 
 #include "platform/desktop.h"
+#include "sequencer/model.h"
 #include "sequencer/seq_pictures.h"
 #include "sequencer/seq_window.h"
 #include "windows/pictures.h"
@@ -56,10 +57,29 @@ void Name(Control& control, int tab, std::string_view spoken) {
   control.spoken_name = spoken;
 }
 
+// "step 1: C strong, upper C soft; step 3: E strong"
+std::string Spoken_Matrix() {
+  std::string steps;
+  for (int step = 0; step < Seq_Step_Count; ++step) {
+    std::string notes;
+    for (int row = Seq_Row_Count - 1; row >= 0; --row) {
+      const int velocity = Seq_Data[static_cast<std::size_t>(step * Seq_Row_Count + row)];
+      if (velocity != Seq_Strong && velocity != Seq_Soft) continue;
+      notes += (notes.empty() ? " " : ", ") +
+               std::string(Note_Names[static_cast<std::size_t>(Seq_Row_Count - 1 - row)]) +
+               (velocity == Seq_Strong ? " strong" : " soft");
+    }
+    if (notes.empty()) continue;
+    steps += (steps.empty() ? "step " : "; step ") + std::to_string(step + 1) + ":" + notes;
+  }
+  return steps.empty() ? "empty" : steps;
+}
+
 void Place_Matrix() {
   Sequencer.Seq_Matrix.Place(Matrix_Left_px, Matrix_Top_px, Seq_Step_Count * Pitch_px - 1,
                              Seq_Row_Count * Pitch_px - 1);
   Sequencer.Seq_Matrix.spoken_name = "Note matrix";
+  Sequencer.Seq_Matrix.spoken_value = Spoken_Matrix;
   Sequencer.Seq_Matrix.tool_tip = "Left button: strong note; right button: soft note";
   for (int key = 0; key < Seq_Row_Count; ++key) {
     Picture_Box& box = Sequencer.Seq_Keys[static_cast<std::size_t>(key)];
@@ -85,9 +105,9 @@ void Place_Directions() {
     const Direction_Row& row = Direction_Rows[place];
     Picture_Box& button = Sequencer.Seq_Directions[place];
     button.Place(row.left, row.top, Light_Size_px, Light_Size_px);
-    button.role = Role::Light;
+    button.role = Role::Choice_Light;
     button.tool_tip = std::string(row.spoken);
-    button.spoken_value = [&button] { return button.tag() == "1" ? "on" : "off"; };
+    button.is_on = [&button] { return button.tag() == "1"; };
     Name(button, First_Direction_Tab + static_cast<int>(place), row.spoken);
   }
 }

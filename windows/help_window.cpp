@@ -55,7 +55,7 @@ Help_Window::Help_Window() : Form(Form_Role::Child, "Help") {
            {Description_Label, 264, 14, 222, 18, -1, ""},
            {Help_Description, 264, 34, 222, 230, 4, "Description of the topic"},
            {Frame_Credits, Page_Left, Page_Top, Page_Width, Page_Height, -1, "About"},
-           {Plate, 12, 34, 114, 96, -1, ""},
+           {Plate, 12, 34, 114, 96, -1, "Name plate"},
            {Pic_MELVOR, 2, 10, 110, 50, -1, "MELVOR"},
            {Pic_Badge, 17, 70, 79, 14, -1, "JX-8P"},
            {About_Label, 138, 14, 348, 18, -1, ""},

@@ -1,6 +1,9 @@
 #include "adapters/qt/accessible.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QComboBox>
+#include <cmath>
 
 #include "adapters/qt/picture_views.h"
 #include "adapters/qt/qt_text.h"
@@ -11,9 +14,8 @@ namespace {
 
 Shell* The_Shell = nullptr;
 
-QAccessible::Role Role_Of(const Control& control) {
-  if (control.kind != Kind::Picture_Box) return QAccessible::Graphic;
-  switch (static_cast<const Picture_Box&>(control).role) {
+QAccessible::Role Role_Of(const Picture_Box& picture) {
+  switch (picture.role) {
     case Role::Picture:
       return QAccessible::Graphic;
     case Role::Slider:
@@ -23,88 +25,173 @@ QAccessible::Role Role_Of(const Control& control) {
       return QAccessible::Dial;
     case Role::Button:
       return QAccessible::Button;
-    case Role::Light:
-      return QAccessible::Indicator;
+    case Role::Check_Light:
+      return QAccessible::CheckBox;
+    case Role::Choice_Light:
+      return QAccessible::RadioButton;
   }
   return QAccessible::Graphic;
 }
 
-bool Has_Steps(const Control& control) {
-  const QAccessible::Role role = Role_Of(control);
-  return role == QAccessible::Slider || role == QAccessible::Dial;
+// Runs deed as the user's, unless the control's form has gone meanwhile.
+template <class Deed>
+void Work(Control* control, Deed deed) {
+  if (control == nullptr || The_Shell == nullptr) return;
+  The_Shell->Deliver([control, deed] {
+    if (The_Shell->View_Of(*control) != nullptr) deed();
+  });
 }
 
-// An element of a panel. Its value is a text, as the panel writes it, so it is told as the description too.
-struct Light_Accessible final : QAccessibleWidget {
+// What a light view shows: an element of a panel, a canvas, or a mere decoration.
+struct Light_Accessible final : QAccessibleWidget, QAccessibleValueInterface {
   explicit Light_Accessible(Light_Widget& light) : QAccessibleWidget(&light), light_(light) {}
 
-  QAccessible::Role role() const override {
-    return light_.control == nullptr ? QAccessible::Graphic : Role_Of(*light_.control);
-  }
+  QAccessible::Role role() const override;
+  QAccessible::State state() const override;
   QString text(QAccessible::Text kind) const override;
+  void* interface_cast(QAccessible::InterfaceType type) override;
+
   QStringList actionNames() const override;
   void doAction(const QString& action) override;
 
+  QVariant currentValue() const override { return Picture()->scale.value(); }
+  void setCurrentValue(const QVariant& value) override;
+  QVariant minimumValue() const override { return Picture()->scale.lowest; }
+  QVariant maximumValue() const override { return Picture()->scale.highest; }
+  QVariant minimumStepSize() const override { return 1; }
+
  private:
-  void Step(int key_code);
-  void Press();
+  Picture_Box* Picture() const;  // nullptr: it shows none, or its form is closed
+  bool Has_Scale() const { return Picture() != nullptr && Picture()->scale.value; }
 
   Light_Widget& light_;
 };
 
+Picture_Box* Light_Accessible::Picture() const {
+  const bool picture = light_.control != nullptr && light_.control->kind == Kind::Picture_Box;
+  return picture ? static_cast<Picture_Box*>(light_.control) : nullptr;
+}
+
+QAccessible::Role Light_Accessible::role() const {
+  return Picture() == nullptr ? QAccessible::Graphic : Role_Of(*Picture());
+}
+
+QAccessible::State Light_Accessible::state() const {
+  QAccessible::State state = QAccessibleWidget::state();
+  if (light_.control == nullptr) return state;
+  state.disabled = !Usable(*light_.control);
+  // The symbol on a button and the lines of a field have nothing to say.
+  if (light_.control->spoken_name.empty()) state.invisible = true;
+  if (Picture() != nullptr && Picture()->is_on) {
+    state.checkable = true;
+    state.checked = Picture()->is_on();
+  }
+  return state;
+}
+
 QString Light_Accessible::text(QAccessible::Text kind) const {
   const bool value = kind == QAccessible::Value || kind == QAccessible::Description;
-  if (!value || light_.control == nullptr || !light_.control->spoken_value)
-    return QAccessibleWidget::text(kind);
-  return To_Qt(light_.control->spoken_value());
+  if (!value || light_.control == nullptr) return QAccessibleWidget::text(kind);
+  const std::string spoken = Spoken_Value(*light_.control);
+  return spoken.empty() ? QAccessibleWidget::text(kind) : To_Qt(spoken);
+}
+
+void* Light_Accessible::interface_cast(QAccessible::InterfaceType type) {
+  if (type == QAccessible::ValueInterface) {
+    return Has_Scale() ? static_cast<QAccessibleValueInterface*>(this) : nullptr;
+  }
+  return QAccessibleWidget::interface_cast(type);
 }
 
 QStringList Light_Accessible::actionNames() const {
   QStringList names = QAccessibleWidget::actionNames();
-  if (light_.control == nullptr || light_.control->kind != Kind::Picture_Box) return names;
-  if (Has_Steps(*light_.control)) {
-    names << increaseAction() << decreaseAction();
-  } else {
-    names << pressAction();
-  }
+  if (Has_Scale()) return names << increaseAction() << decreaseAction();
+  if (role() != QAccessible::Graphic) names << pressAction();
   return names;
 }
 
 void Light_Accessible::doAction(const QString& action) {
-  if (action == increaseAction()) return Step(Key::Up);
-  if (action == decreaseAction()) return Step(Key::Down);
-  if (action == pressAction()) return Press();
-  QAccessibleWidget::doAction(action);
+  Picture_Box* picture = Picture();
+  if (action == pressAction()) {
+    Work(picture, [picture] {
+      const auto half = [](int size_px) { return static_cast<float>(size_px) / 2; };
+      User_Pressed(*picture, {Left_Button, 0, half(picture->width()), half(picture->height())});
+    });
+  } else if (action == increaseAction() || action == decreaseAction()) {
+    const bool upwards = action == increaseAction();
+    Work(picture, [picture, upwards] { User_Stepped(*picture, upwards); });
+  } else {
+    QAccessibleWidget::doAction(action);
+  }
 }
 
-void Light_Accessible::Step(int key_code) {
-  Control* control = light_.control;
-  if (control == nullptr || The_Shell == nullptr) return;
-  The_Shell->Deliver([control, key_code] {
-    if (The_Shell->View_Of(*control) == nullptr) return;
-    User_Focused(*control);
-    Key_Down(control->form, control, {key_code, 0}, 0);
-  });
+void Light_Accessible::setCurrentValue(const QVariant& value) {
+  Picture_Box* picture = Picture();
+  const int wanted = static_cast<int>(std::lround(value.toDouble()));
+  Work(picture, [picture, wanted] { User_Turned(*picture, wanted); });
 }
 
-void Light_Accessible::Press() {
-  Control* control = light_.control;
-  if (control == nullptr || The_Shell == nullptr) return;
-  The_Shell->Deliver([control] {
-    if (The_Shell->View_Of(*control) == nullptr) return;
-    const Mouse_Event middle{Left_Button, 0, static_cast<float>(control->width()) / 2,
-                             static_cast<float>(control->height()) / 2};
-    Mouse_Down(*control, middle);
-    if (The_Shell->View_Of(*control) != nullptr) Mouse_Up(*control, middle, true);
-  });
-}
+// A drop-down list under its own name; the toolkit tells the selected entry in place of it.
+struct Drop_Down_Accessible final : QAccessibleWidget {
+  explicit Drop_Down_Accessible(QComboBox& list)
+      : QAccessibleWidget(&list, QAccessible::ComboBox), list_(list) {}
+
+  int childCount() const override { return 1; }
+  QAccessibleInterface* child(int index) const override {
+    return index == 0 ? QAccessible::queryAccessibleInterface(list_.view()) : nullptr;
+  }
+  int indexOfChild(const QAccessibleInterface* entries) const override {
+    return entries != nullptr && entries->object() == list_.view() ? 0 : -1;
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.expandable = true;
+    state.expanded = list_.view()->isVisible();
+    return state;
+  }
+  QString text(QAccessible::Text kind) const override {
+    const bool value = kind == QAccessible::Value || kind == QAccessible::Description;
+    return value ? list_.currentText() : QAccessibleWidget::text(kind);
+  }
+  QStringList actionNames() const override { return {showMenuAction(), setFocusAction()}; }
+  void doAction(const QString& action) override {
+    if (action != showMenuAction()) return QAccessibleWidget::doAction(action);
+    if (list_.view()->isVisible()) {
+      list_.hidePopup();
+    } else if (list_.isEnabled()) {
+      list_.showPopup();
+    }
+  }
+
+ private:
+  QComboBox& list_;
+};
 
 QAccessibleInterface* Make_Accessible(const QString&, QObject* object) {
-  auto* light = dynamic_cast<Light_Widget*>(object);
-  return light == nullptr ? nullptr : new Light_Accessible(*light);
+  if (auto* light = dynamic_cast<Light_Widget*>(object)) return new Light_Accessible(*light);
+  if (auto* list = dynamic_cast<QComboBox*>(object)) return new Drop_Down_Accessible(*list);
+  return nullptr;
 }
 
 }  // namespace
+
+void Tell_Change(QWidget& widget) {
+  if (!QAccessible::isActive()) return;
+  QAccessibleInterface* element = QAccessible::queryAccessibleInterface(&widget);
+  if (element == nullptr) return;
+  if (auto* value = element->valueInterface()) {
+    QAccessibleValueChangeEvent changed(&widget, value->currentValue());
+    QAccessible::updateAccessibility(&changed);
+  }
+  if (element->state().checkable) {
+    QAccessible::State checked;
+    checked.checked = true;
+    QAccessibleStateChangeEvent changed(&widget, checked);
+    QAccessible::updateAccessibility(&changed);
+  }
+  QAccessibleEvent described(&widget, QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&described);
+}
 
 void Install_Accessible(Shell& shell) {
   The_Shell = &shell;

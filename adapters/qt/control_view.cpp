@@ -1,7 +1,10 @@
 #include "adapters/qt/control_view.h"
 
 #include <QAbstractScrollArea>
+#include <QAccessible>
+#include <utility>
 
+#include "adapters/qt/accessible.h"
 #include "adapters/qt/button_views.h"
 #include "adapters/qt/list_views.h"
 #include "adapters/qt/picture_views.h"
@@ -95,6 +98,15 @@ void Control_View::Update() {
   Show_Pointer();
   Show_Values();
   if (widget.isHidden() == control.visible()) widget.setVisible(control.visible());
+  Tell_Value();
+}
+
+void Control_View::Tell_Value() {
+  if (!QAccessible::isActive()) return;
+  std::string value = Spoken_Value(control);
+  if (value == told_) return;
+  told_ = std::move(value);
+  Tell_Change(widget);
 }
 
 void Control_View::Before_Press(const Mouse_Event&) {}

@@ -27,6 +27,9 @@ struct Control_View : Component_View {
   // Shows the pointer shape that tells how the control is worked, or the window's while it cannot be.
   void Show_Pointer();
 
+  // Tells assistive programs the value in words if it has changed, even where no pixel has.
+  void Tell_Value();
+
   // Forgets the control, which may go away; the widget stays until its window is destroyed.
   void Detach();
 
@@ -48,6 +51,9 @@ struct Control_View : Component_View {
 
   // Reports something that the user did, then shows what the program made of it.
   void Report(const std::function<void()>& deed);
+
+ private:
+  std::string told_;
 };
 
 // Whether the user can work the control now: its form, and everything that it lies on, is enabled.

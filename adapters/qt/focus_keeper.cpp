@@ -17,6 +17,10 @@ bool Menu_Has_Keys() {
          qobject_cast<QMenuBar*>(QApplication::focusWidget()) != nullptr;
 }
 
+bool Blinks(const Control& control) {
+  return control.kind == Kind::Picture_Box && static_cast<const Picture_Box&>(control).blinks;
+}
+
 }  // namespace
 
 void Focus_Keeper::Follow() {
@@ -30,6 +34,15 @@ void Focus_Keeper::Follow() {
   QWidget& wanted = can ? focused->widget : view->Body();
   if (wanted.window()->focusWidget() != &wanted) wanted.setFocus(Qt::OtherFocusReason);
   moving_ = false;
+  Show_Frame(can && !Blinks(focused->control) ? &focused->widget : nullptr);
+}
+
+void Focus_Keeper::Show_Frame(QWidget* around) {
+  if (!frame_) {
+    if (around == nullptr) return;
+    frame_ = new Focus_Frame(around->parentWidget());
+  }
+  frame_->setWidget(around);
 }
 
 void Focus_Keeper::Note(const QWidget& widget, const QFocusEvent& event) {

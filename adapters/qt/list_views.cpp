@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 
+#include "adapters/qt/accessible.h"
 #include "adapters/qt/qt_text.h"
 #include "adapters/qt/shell.h"
 #include "platform/input.h"
@@ -77,5 +78,7 @@ void Combo_Box_View::Show_Values() {
     drop_down.clear();
     drop_down.addItems(To_Qt_List(shown_));
   }
-  if (drop_down.currentIndex() != List().index()) drop_down.setCurrentIndex(List().index());
+  if (drop_down.currentIndex() == List().index()) return;
+  drop_down.setCurrentIndex(List().index());
+  Tell_Change(drop_down);
 }

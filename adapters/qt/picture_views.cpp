@@ -1,6 +1,5 @@
 #include "adapters/qt/picture_views.h"
 
-#include <QAccessible>
 #include <QPainter>
 #include <algorithm>
 
@@ -35,17 +34,6 @@ void Picture_Box_View::Show_Values() {
     shown_ = box.picture();
     widget.update();
   }
-  Tell_Spoken_Value();
-}
-
-// A screen reader follows the element that has the focus.
-void Picture_Box_View::Tell_Spoken_Value() {
-  if (!control.spoken_value || !QAccessible::isActive()) return;
-  const QString spoken = To_Qt(control.spoken_value());
-  if (spoken == spoken_) return;
-  spoken_ = spoken;
-  QAccessibleEvent changed(&widget, QAccessible::DescriptionChanged);
-  QAccessible::updateAccessibility(&changed);
 }
 
 // A box that is a pixel larger than its picture on every side has a border.

@@ -34,10 +34,8 @@ struct Picture_Box_View final : Light_View {
  private:
   void Show_Values() override;
   void Paint(QPainter& painter) override;
-  void Tell_Spoken_Value();
 
   Picture shown_;
-  QString spoken_;
 };
 
 struct Canvas_View final : Light_View {

@@ -8,6 +8,7 @@
 #include "adapters/qt/form_view.h"
 #include "adapters/qt/frame_view.h"
 #include "platform/dispatch.h"
+#include "platform/form.h"
 #include "platform/timer.h"
 
 Shell::Shell(std::string_view pictures_directory)
@@ -38,6 +39,9 @@ Shell::Event::Event(Shell& the_shell) : shell(the_shell) { ++shell.depth_; }
 
 Shell::Event::~Event() {
   shell.changes.Apply();
+  if (const Control* focused = Focused_Control()) {
+    if (Control_View* view = shell.View_Of(*focused)) view->Tell_Value();
+  }
   shell.focus.Follow();
   shell.mouse.Follow();
   if (--shell.depth_ == 0) std::exchange(shell.dropped_, {}).clear();

@@ -51,7 +51,9 @@ QWidget& Make_Text_Widget(const Control& control, QWidget& parent) {
 }  // namespace
 
 Label_View::Label_View(Shell& the_shell, Control& the_control, QWidget& parent)
-    : Control_View(the_shell, the_control, *new Label_Widget(parent), {.greys = true}) {}
+    : Control_View(the_shell, the_control, *new Label_Widget(parent), {.greys = true}) {
+  widget.setFocusPolicy(Qt::NoFocus);  // its place in the order of Tab is for its access key alone
+}
 
 void Label_View::Show_Values() {
   const auto& label = static_cast<const Label&>(control);

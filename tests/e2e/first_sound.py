@@ -65,7 +65,7 @@ def knob(session):
     steps = [semitones[value] for value in to_fence(session, tone(13, 0)[:8])]
     assert steps[0] == 0 and steps[-1] == 5, steps
     check_drag(steps, lambda _, place: place, [0] + [round(x / 4) for x in path])
-    assert session.screen.value("DCO 1 tune") == "5 semitones"
+    assert session.screen.value("DCO 1 tune") == "plus 5 semitones"
 
 
 def switch(session):

@@ -41,6 +41,8 @@ def main():
         draw(screen)
         while screen.number("Tempo, sequences a minute") < 120:
             screen.click("Tempo, sequences a minute", at=(112, 7))
+        words = "step 1: C strong; step 2: E strong; step 3: G soft, upper C strong"
+        assert screen.value("Note matrix").startswith(words), screen.value("Note matrix")
         session.screenshot("drawn")
 
         screen.click("Sequencer > Start sequencer")

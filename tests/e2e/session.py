@@ -31,7 +31,7 @@ class Evening:
         for port in ("synth:in", "synth:out"):
             self.screen.key("Tab")
             self.screen.type(port)
-        self.screen.wait_for("synth:out")
+        wait_until(lambda: self.screen.value("MIDI input device") == "synth:out", "the choice")
         self.station("setup")
         self.screen.click("OK")
         assert self.screen.box().startswith(Reminder)

@@ -82,7 +82,7 @@ def main():
     with Session("sweep") as session:
         screen = session.screen
         screen.menu("MIDI", "Oscillator...")
-        screen.choose("DCO1 LFO Mod Depth", "VCF Cutoff")
+        screen.choose("Target", "VCF Cutoff")
         set_step_time(screen, 50, 9, 82)
         play(session, Double_ramp)
         screen.click("Square")

@@ -1,5 +1,6 @@
 // The order of events, message boxes, child windows and pictures.
 #include <QFile>
+#include <QFocusFrame>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
@@ -139,6 +140,21 @@ TEST_F(Desk, The_User_Moves_Activates_And_Closes_By_The_Title_Bar) {
   title.close();
   EXPECT_EQ(log, (Texts{"panel", "query", "query"}));
   EXPECT_EQ(Active_Form(), &other);
+}
+
+TEST_F(Desk, A_Frame_Marks_The_Focus_Where_Nothing_Blinks) {
+  const auto frames = [] {
+    QList<QFocusFrame*> shown = Desk::Widget("PANEL").findChildren<QFocusFrame*>();
+    shown.removeIf([](const QFocusFrame* frame) { return frame->isHidden(); });
+    return shown;
+  };
+  knob.blinks = true;
+  Show_Windows();
+  Set_Focus(knob);
+  EXPECT_TRUE(frames().isEmpty());
+  Set_Focus(lever);
+  ASSERT_EQ(frames().size(), 1);
+  EXPECT_TRUE(frames()[0]->geometry().contains(Widget("Lever").geometry()));
 }
 
 TEST_F(Desk, No_Line_Falls_Between_The_Pixels_Of_A_Scaled_Screen) {

@@ -147,12 +147,12 @@ class Screen:
     def type(self, text):
         self.hand("type", "--delay", 20, text)
 
-    def choose(self, shown, text):
-        """Opens the drop-down list that shows the one text and types the other."""
-        self.click(shown)
+    def choose(self, name, text):
+        """Opens the drop-down list and types the text."""
+        self.click(name)
         self.type(text)
         self.key("Return")
-        self.wait_for(text)
+        wait_until(lambda: self.value(name) == text, text)
 
     def menu(self, *path):
         """Chooses an item by the captions on the way to it."""
