@@ -92,8 +92,8 @@ TEST_F(Sequencer_Test, Errors_Of_A_Load_End_It_With_Their_Box) {
   Seq_Load("c:\\zero.seq", Load_Mode::Open);
   EXPECT_EQ(Seq_Data[0], 0);
   EXPECT_EQ(desktop.boxes.back().style, 16);
-  Open_Window();  // makes an end of the impossible tempo
-  EXPECT_EQ(Seq_Speed, 1);
+  EXPECT_EQ(Seq_Speed, 30);
+  Open_Window();
 
   root.Put("high.seq", File_Of(30, 90, 9));
   desktop.Expect_Box(Answer::Ok, "Error 380: Invalid property value");
