@@ -63,6 +63,8 @@ void Closing_Wire() {
 }
 
 void End_Without_Questions() {
+  The_Desktop().Quit();  // from here on no box waits for anybody, not even that of a device that has gone
+  if (!Started) return;  // the settings are not all read, and must not be written
   Tone_Saved = Flag_True;
   Seq_Saved = Flag_On;
   Unload(MELVOR);

@@ -35,6 +35,8 @@
 #include "windows/modal.h"
 #include "windows/state.h"
 
+bool Started = false;
+
 namespace {
 
 constexpr int Small_Fonts_PPI = 96;
@@ -90,6 +92,7 @@ void Show_Editor() {
 }
 
 void Frame_Load() {
+  Started = false;
   Dlg_Nest = 0;
   Pics_Build_Segments();
   Active_Ctl = &Editor.DCO1_Range;
@@ -116,6 +119,7 @@ void Frame_Load() {
   Tone_Clear();
   Tone_Saved = Flag_True;
   Editor.Timer1.enabled = true;
+  Started = true;
 }
 
 }  // namespace

@@ -66,6 +66,17 @@ def menu(session):
 States = [nothing, changed_tone, chord, sequencer, sweep, receive, dialog, save_dialog, box, menu]
 
 
+def start(session):
+    """Ends at the first box of a start; what the settings hold is not all read by then."""
+    session.stop()
+    session.settings_file.write_text("[MIDI]\r\nOutput=gone\r\n[Recent Files]\r\nTone1=C:\\A.SYX\r\n")
+    before = session.settings_file.read_text()
+    session.start(wait_for_panel=False)
+    session.screen.box()
+    assert session.interrupt() == 0
+    assert session.settings_file.read_text() == before
+
+
 def main():
     with Session("ends") as session:
         for state in States:
@@ -80,6 +91,7 @@ def main():
             if any(message[0] == 0x90 and message[2] for message in sent):
                 assert sent[-1] == All_notes_off, f"{state.__name__}: {sent[-1].hex(' ')}"
             session.start()
+        start(session)
 
 
 if __name__ == "__main__":
