@@ -57,19 +57,14 @@ void Frame_Unload() {
 
 }  // namespace
 
-bool End_Wanted = false;
-
 void Closing_Wire() {
   MELVOR.on_query_unload = Frame_Query;
   MELVOR.on_unload = Frame_Unload;
 }
 
 void End_Without_Questions() {
-  The_Desktop().Quit();  // from now on boxes answer themselves, the one that is open too
-  if (Starting_Up) {
-    End_Wanted = true;
-    return;
-  }
+  The_Desktop().Quit();  // from here on no box waits for anybody, not even that of a device that has gone
+  if (!Started) return;  // the settings are not all read, and must not be written
   Tone_Saved = Flag_True;
   Seq_Saved = Flag_On;
   Unload(MELVOR);

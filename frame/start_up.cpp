@@ -35,6 +35,8 @@
 #include "windows/modal.h"
 #include "windows/state.h"
 
+bool Started = false;
+
 namespace {
 
 constexpr int Small_Fonts_PPI = 96;
@@ -90,6 +92,7 @@ void Show_Editor() {
 }
 
 void Frame_Load() {
+  Started = false;
   Dlg_Nest = 0;
   Pics_Build_Segments();
   Active_Ctl = &Editor.DCO1_Range;
@@ -116,11 +119,10 @@ void Frame_Load() {
   Tone_Clear();
   Tone_Saved = Flag_True;
   Editor.Timer1.enabled = true;
+  Started = true;
 }
 
 }  // namespace
-
-bool Starting_Up = false;
 
 bool Start_Up() {
   for (void (*wire)() :
@@ -132,9 +134,6 @@ bool Start_Up() {
   MELVOR.on_click = Frame_Click;
   MELVOR.MidiNotifyControl.on_change = MIDI_In_Poll;
   MELVOR.Timer_Display.on_tick = Timer_Display_Tick;
-  Starting_Up = true;
   Show(MELVOR);
-  Starting_Up = false;
-  if (End_Wanted) End_Without_Questions();
-  return MELVOR.Loaded() || End_Wanted;
+  return MELVOR.Loaded();
 }

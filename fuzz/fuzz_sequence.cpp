@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const bool taken = Is_Sequence(bytes) && bytes[4] != 0;
   Require((Seq_Loaded == Flag_On) == taken);
   Require(Cells_Are(taken ? bytes.substr(6) : std::string(Seq_Cell_Count, '\0')));
-  Require(Seq_Speed >= 0 && Seq_Speed <= Seq_Fastest);
+  Require(Seq_Speed >= 1 && Seq_Speed <= Seq_Fastest);
   Require(desktop.boxes == (Is_Sequence(bytes) && !taken ? 1 : 0));
   for (int tick = 0; tick <= Seq_Step_Count; ++tick) Seq_Tick();
   Require(Seq_Prev_Step == 0);

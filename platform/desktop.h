@@ -50,7 +50,8 @@ struct Desktop {
   virtual void Run_Events(Event_Set set) = 0;
   // Sleeps until an event (timer, post, input) has come, and runs what is pending.
   virtual void Wait_Events() = 0;
-  // Ends the program's event loop once the event that runs now has ended.
+  // Ends the program's event loop once the event that runs now has ended. No box is shown any more: each is
+  // answered at once as Escape does.
   virtual void Quit() = 0;
 
   virtual void Beep() = 0;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -57,6 +58,11 @@ std::string Spelling(const std::string& directory, const std::string& name) {
   while (entry.Next()) {
     if (Same_Text(entry.Name(), name) && (!first || entry.Name() < *first)) first = entry.Name();
   }
+  // A directory that is not there, or may not be listed, holds no other spelling; one that fails may.
+  constexpr std::array Nothing_To_List{0, ENOENT, ENOTDIR, EACCES};
+  const bool known =
+      std::find(Nothing_To_List.begin(), Nothing_To_List.end(), entry.error) != Nothing_To_List.end();
+  if (!first && !known) throw Runtime_Error(Host_Directory_Error_Number(entry.error));
   return first.value_or(name);
 }
 

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
 #include <optional>
 
 #include "platform/drives.h"
@@ -27,11 +27,13 @@ constexpr std::array<std::string_view, 3> Copy_Endings{"~", "~2", "~3"};  // new
 
 // The file that a path leads to in the end; it may not exist.
 std::string Link_Target(std::string host_path) {
-  std::error_code error;
+  std::array<char, PATH_MAX> link;
   for (int followed = 0; followed < Link_Limit; ++followed) {
-    const std::filesystem::path link = std::filesystem::read_symlink(host_path, error);
-    if (error) return host_path;
-    host_path = link.is_absolute() ? link.string() : Parent_Directory(host_path) + "/" + link.string();
+    const ssize_t length = readlink(host_path.c_str(), link.data(), link.size());
+    if (length < 0 && errno != EINVAL && errno != ENOENT) Raise(host_path);
+    if (length < 0) return host_path;  // no link
+    const std::string leads_to(link.data(), static_cast<std::size_t>(length));
+    host_path = leads_to.starts_with('/') ? leads_to : Parent_Directory(host_path) + "/" + leads_to;
   }
   throw Runtime_Error(Error_Path_Access);
 }
@@ -142,13 +144,19 @@ void New_File::Take_Place(const std::string& target) {
   if (directory.fd >= 0) fsync(directory.fd);
 }
 
+bool Is_There(const std::string& host_path) {
+  struct stat status;
+  if (lstat(host_path.c_str(), &status) == 0) return true;
+  if (errno != ENOENT) Raise(host_path);
+  return false;
+}
+
 // Makes room for a new copy of target: shifts the copies up as far as the first free place, so that none is
 // dropped while there is one.
 void Shift_Copies(const std::string& target) {
   const auto copy = [&](std::size_t place) { return target + std::string(Copy_Endings[place]); };
-  struct stat status;
   std::size_t place = 0;
-  while (place + 1 < Copy_Endings.size() && lstat(copy(place).c_str(), &status) == 0) ++place;
+  while (place + 1 < Copy_Endings.size() && Is_There(copy(place))) ++place;
   for (; place > 0; --place) {
     if (rename(copy(place - 1).c_str(), copy(place).c_str()) != 0) Raise(copy(place));
   }

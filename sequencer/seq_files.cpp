@@ -58,12 +58,18 @@ void Draw_Preview() {
   }
 }
 
+// What a file asks for that cannot be is met before anything has changed.
 void Take(const Byte_String& bytes, bool into_window) {
-  Seq_Speed = std::min(Byte_At(bytes, Speed_Place), Seq_Fastest);
-  Seq_Base_Note = Byte_At(bytes, Base_Note_Place);
-  Seq_Range_Index =
-      std::abs(Round_16((Seq_Base_Note - Seq_Lowest_Note) / static_cast<double>(Semitones_In_Octave)));
-  Seq_Interval_Set();
+  const int speed = std::min(Byte_At(bytes, Speed_Place), Seq_Fastest);
+  const int base_note = Byte_At(bytes, Base_Note_Place);
+  const int range =
+      std::abs(Round_16((base_note - Seq_Lowest_Note) / static_cast<double>(Semitones_In_Octave)));
+  const int interval_ms = Seq_Interval_ms(speed);
+  if (into_window && range >= Sequencer.Seq_Range.Count()) throw Runtime_Error(Error_Bad_Property_Value);
+  Seq_Speed = speed;
+  Seq_Base_Note = base_note;
+  Seq_Range_Index = range;
+  MELVOR.Seq_Tmr.interval_ms = interval_ms;
   if (into_window) Show_In_Lists();
   for (std::size_t index = 0; index < Seq_Data.size(); ++index) {
     Seq_Data[index] = To_Int16(Byte_At(bytes, Cells_Place + index));

@@ -168,10 +168,8 @@ void Show_Range() {
   }
 }
 
-// A tempo of 0, which a file can bring, is beyond the scroll bar: it shows, and makes it, the slowest.
 void Show_Tempo() {
-  Sequencer.Seq_Tempo.Set_Value(
-      Clamp(Seq_Speed, Sequencer.Seq_Tempo.minimum(), Sequencer.Seq_Tempo.maximum()));
+  Sequencer.Seq_Tempo.Set_Value(Seq_Speed);
   Tempo_Change();
 }
 

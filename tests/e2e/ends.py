@@ -39,6 +39,16 @@ def box(session):
     session.screen.box()
 
 
+def start(session):
+    """Ends at the first box of a start; what the settings hold is not all read by then."""
+    session.settings_file.write_text("[MIDI]\r\nOutput=gone\r\n[Recent Files]\r\nTone1=C:\\A.SYX\r\n")
+    before = session.settings_file.read_text()
+    session.start(wait_for_panel=False)
+    session.screen.box()
+    assert session.interrupt() == 0
+    assert session.settings_file.read_text() == before
+
+
 def main():
     with Session("ends") as session:
         for state in (playing, chord_and_menu, receive, save_dialog, box):
@@ -52,6 +62,7 @@ def main():
             assert session.settings()["MIDI"].get("Synthesizer") == "JX-8P", f"{state.__name__}: no settings"
             sent = [message for _, message in session.wire.all()]
             assert sent[-1] == All_notes_off, f"{state.__name__}: {sent[-1].hex(' ')}"
+        start(session)
 
 
 if __name__ == "__main__":

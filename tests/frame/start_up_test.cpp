@@ -145,4 +145,22 @@ TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {
   }
 }
 
+TEST_F(Run, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
+  ASSERT_TRUE(Start());
+  service.Fail_Next(Midi_Operation::Out_Open, 68, 99);
+  End_Without_Questions();
+  EXPECT_FALSE(MELVOR.Loaded());
+
+  desktop.quit = false;
+  desktop.on_other_box = [](const Shown_Box&) {
+    End_Without_Questions();
+    return Answer::Ok;
+  };
+  const std::string settings = "[MIDI]\nOutput=Gone\nInput=Gone\n[Recent Files]\nTone1=C:\\A.SYX\n";
+  Start(settings);
+  EXPECT_TRUE(desktop.quit);
+  EXPECT_EQ(desktop.boxes.size(), 1U);
+  EXPECT_EQ(root.Get("MELVOR.INI"), settings);
+}
+
 }  // namespace

@@ -39,6 +39,7 @@ void Scripted_Desktop::Expect_Box(Answer answer, std::string text) {
 }
 
 Answer Scripted_Desktop::Message_Box(std::string_view text, int style, std::string_view title) {
+  if (quit) return Answer::Cancel;
   boxes.push_back({std::string(text), style, std::string(title)});
   if (expected.empty() && on_other_box) return on_other_box(boxes.back());
   if (expected.empty()) {

@@ -100,6 +100,13 @@ class Screen:
         node = wait_until(lambda: self._find(lambda node: node.get_name() == name, into_menus=True), f'"{name}"')
         return node.get_state_set().contains(Atspi.StateType.ENABLED)
 
+    def is_checked(self, name):
+        return self.element(name).get_state_set().contains(Atspi.StateType.CHECKED)
+
+    def frame(self):
+        """Left, top, width and height of the main window."""
+        return _extents(wait_until(lambda: self._find(lambda node: node.get_role() == Atspi.Role.FRAME), "the frame"))
+
     def number(self, name):
         """The value of a scroll bar."""
         return round(Atspi.Value.get_current_value(self.element(name)))
@@ -178,6 +185,9 @@ class Screen:
             return None
         labels = [node.get_name() for node in self._walk(box) if node.get_role() == Atspi.Role.LABEL]
         return next((text for text in labels if text), None)
+
+    def has_box(self):
+        return self._box() is not None
 
     def box(self):
         """The text of the message box that is open; waits for one."""
