@@ -52,7 +52,8 @@ Qt::CursorShape Shape_Of(const Picture_Box& box) {
     case Role::Knob:
       return Qt::SizeHorCursor;
     case Role::Button:
-    case Role::Light:
+    case Role::Check_Light:
+    case Role::Choice_Light:
       return Qt::PointingHandCursor;
     case Role::Picture:
       return Qt::ArrowCursor;
