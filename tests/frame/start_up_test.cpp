@@ -145,7 +145,7 @@ TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {
   }
 }
 
-TEST_F(Run, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
+TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
   ASSERT_TRUE(Start());
   service.Fail_Next(Midi_Operation::Out_Open, 68, 99);
   End_Without_Questions();
