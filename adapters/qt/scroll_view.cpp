@@ -27,11 +27,15 @@ struct Turned_Bar final : QScrollBar {
     held_ = false;
     QScrollBar::mouseReleaseEvent(event);
   }
+  // By the action, not by how far the toolkit has gone: at an end it goes nowhere.
   void Turn_Step(int action) {
     if (!held_) return;
-    const int moved = sliderPosition() - value();
-    if (action == SliderMove || moved == 0) return;
-    setSliderPosition(value() - moved);
+    int up = 0;
+    if (action == SliderSingleStepAdd) up = -singleStep();
+    if (action == SliderSingleStepSub) up = singleStep();
+    if (action == SliderPageStepAdd) up = -pageStep();
+    if (action == SliderPageStepSub) up = pageStep();
+    if (up != 0) setSliderPosition(value() + up);
   }
 
   bool held_ = false;

@@ -142,6 +142,25 @@ TEST_F(Desk, The_User_Moves_Activates_And_Closes_By_The_Title_Bar) {
   EXPECT_EQ(Active_Form(), &other);
 }
 
+TEST_F(Desk, A_Bar_With_The_Largest_On_Top_Leaves_Its_Ends_By_Its_Arrows) {
+  Scroll_Bar bar(panel, "Bar");
+  bar.Place(0, 0, 16, 150);
+  bar.orientation = Orientation::Vertical;
+  bar.largest_on_top = true;
+  bar.maximum = 99;
+  bar.on_change = [&] { Note(std::to_string(bar.value())); };
+  Show_Windows();
+  QWidget& widget = Widget("Bar");
+  const QPoint upper(8, 4), lower(8, widget.height() - 4);
+  for (const auto& [start, place] : {std::pair(0, upper), std::pair(99, lower), std::pair(0, lower)}) {
+    bar.value = start;
+    desktop.Run_Events(Event_Set::All);
+    Press(widget, place);
+    Release(widget, place);
+  }
+  EXPECT_EQ(log, (Texts{"1", "98"}));
+}
+
 TEST_F(Desk, A_Frame_Marks_The_Focus_Where_Nothing_Blinks) {
   const auto frames = [] {
     QList<QFocusFrame*> shown = Desk::Widget("PANEL").findChildren<QFocusFrame*>();
