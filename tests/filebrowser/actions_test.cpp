@@ -109,18 +109,4 @@ TEST_F(Actions_Test, An_Existing_File_Is_Only_Overwritten_With_Consent) {
   }
 }
 
-// The reader offers a Save As in the middle of a load, and that uses the very dialog that runs the load.
-TEST_F(Actions_Test, A_Save_As_Within_A_Load_Leaves_The_Dialog_Closed) {
-  root.Put("work/two.syx", Tone_Bytes('C') + Tone_Bytes('D'));
-  Open("Open_SYX");
-  desktop.Expect_Box(Answer::Yes, "File contains another TONE. Save old TONE first?");
-  desktop.Expect_Box(Answer::Cancel, "File exists: c:\\work\\c.syx Overwrite?");
-  desktop.At_Wait([&] { Enter("c"); });
-  Enter("two");
-  EXPECT_FALSE(Is_Open());
-  EXPECT_EQ(Dlg_Nest, 0);
-  EXPECT_EQ(root.Get("work/c.syx").substr(7, 1), "C");
-  EXPECT_EQ(Tone[0], 'D');
-}
-
 }  // namespace

@@ -11,12 +11,14 @@
 #include "filebrowser/dialog.h"
 #include "filebrowser/state.h"
 #include "panel/editor.h"
+#include "panel/input_box.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_clock.h"
 #include "support/program.h"
 #include "support/temporary_root.h"
 #include "windows/editor_window.h"
 #include "windows/file_dlg_window.h"
+#include "windows/input_dlg_window.h"
 #include "windows/modal.h"
 
 // A tone file whose name is ten times the letter and whose other bytes are 1.
@@ -28,6 +30,7 @@ inline std::string Tone_Bytes(char letter) {
 struct Filebrowser_Test : Program {
   Filebrowser_Test() {
     Editor_Wire();
+    Input_Box_Wire();
     Seq_Clock_Wire();
     FD_Wire();
     MELVOR.Timer_Display.on_tick = [] {

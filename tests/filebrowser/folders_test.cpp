@@ -27,6 +27,24 @@ TEST_F(Folders_Test, Directories_Open_By_Key_Double_Click_And_Up) {
   Press_Directory("C:\\work\\sub");
   Mouse_Double(File_Dlg.FD_List_Dirs, {Left_Button, 0, 4, 4});
   EXPECT_EQ(Shown(), "C:\\work\\sub|C:\\work\\sub");
+  Unload(File_Dlg);
+  Dir_Tones = "c:\\gone\\";
+  Open("Open_SYX");
+  EXPECT_EQ(Shown(), Current_Directory() + "|" + Current_Directory());
+}
+
+TEST_F(Folders_Test, A_New_Folder_Gets_A_Name_That_Is_Free) {
+  Open("Open_SYX");
+  Press_Directory("C:\\work");
+  for (const char* name : {"SUB", "New One"}) {
+    desktop.At_Wait([name] {
+      Input_Dlg.Input_Textbox.Set_Text(name);
+      User_Clicked(Input_Dlg.Input_OK);
+    });
+  }
+  Set_Focus(File_Dlg.FD_Button_Newdir);
+  desktop.Key(Key::Space);
+  EXPECT_TRUE(root.Names("work").contains("new one"));
 }
 
 TEST_F(Folders_Test, A_Drive_That_Is_Not_Ready_Can_Be_Tried_Again_Or_Given_Up) {

@@ -26,7 +26,6 @@ TEST_F(Editor_Test, A_Shown_Tone_Stands_In_Plain_Bands) {
   };
   for (const Row& row :
        std::vector<Row>{{31, "213 62 308 418 418 397 162"},
-                        {64, "192 42 288 398 398 377 152"},
                         {127, "152 32 278 388 398 377 152"},
                         // Beyond the range the rows of switches go to the top edge, the others stay.
                         {128, "152 0 0 388 398 377 152"},
@@ -44,6 +43,9 @@ TEST_F(Editor_Test, A_Shown_Tone_Stands_In_Plain_Bands) {
   Have(19, 120);
   Have(20, 99);
   EXPECT_EQ(Place_Of(Editor.DCO2_Tune_Knopf) + ", " + Place_Of(Editor.DCO2_FTune_Knopf), "15 14, 17 9");
+  EXPECT_EQ(Editor.DCO2_Tune.spoken_value() + ", " + Editor.DCO2_FTune.spoken_value() + ", " +
+                Editor.VCA_Mode.spoken_value(),
+            "12 semitones, 28, envelope 2");
   EXPECT_TRUE(Sent().empty());
 }
 

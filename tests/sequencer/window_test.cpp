@@ -21,6 +21,12 @@ TEST_F(Sequencer_Test, Opening_Sends_All_Notes_Off_And_Resets_Transposition_And_
   EXPECT_EQ(Seq_Base_Note, 72);
 }
 
+TEST_F(Sequencer_Test, A_Window_For_Which_Memory_Is_Short_Is_Told) {
+  Sequencer.on_load = [] { throw Runtime_Error(Error_Out_Of_Memory); };
+  desktop.Expect_Box(Answer::Ok, "Not enough memory to display the Sequencer Window.");
+  Menu_MIDI_Seq();
+}
+
 TEST_F(Sequencer_Test, A_Press_Writes_The_Button_s_Note_Or_Empties_The_Cell) {
   Open_Window();
   std::int16_t& cell = Seq_Data[2 * 13 + 5];
