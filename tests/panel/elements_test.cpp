@@ -15,27 +15,17 @@ TEST_F(Elements, Keys_Move_Each_Kind_By_Its_Own_Rule) {
   Picture_Box& fine = Editor.DCO2_FTune_Knopf;
   Expect_Keys({{cutoff, 34, 40, Key::Page_Up, 56, "399 77", "43"},
                {cutoff, 34, 10, Key::Page_Down, 0, "399 112", "0"},
-               {cutoff, 34, 64, Key::End, 0, "399 112", "0"},
                {cutoff, 34, 63, Key::Up, 64, "399 72", "49"},
-               {range, 11, 0, Key::Up, 32, "19 52", ""},
-               {range, 11, 96, Key::Keypad_Plus, 127, "19 32", ""},
-               {range, 11, 127, Key::Up, 127, "19 32", ""},
                {range, 11, 127, Key::Page_Down, 95, "19 42", ""},
                {range, 11, 64, Key::End, 0, "19 62", ""},
-               {chorus, 43, 64, Key::Page_Up, 64, "488 398", ""},
                {chorus, 43, 64, Key::Keypad_Minus, 32, "488 408", ""},
                {Editor.LFO_Waveform, 44, 0, Key::Home, 64, "18 377", ""},
                {gate, 58, 64, Key::Keypad_Minus, 0, "489 162", ""},
-               {gate, 58, 10, Key::Left, 10, "489 162", ""},
-               {gate, 58, 200, Key::Up, 200, "489 162", ""},
                {tune, 13, 60, Key::Letter_A, 56, "12 5", "0"},  // any key stores the band's lowest byte
                {tune, 13, 56, Key::Page_Up, 92, "17 8", "6"},
-               {tune, 13, 127, Key::Page_Up, 120, "15 14", "12"},
                {tune, 13, 56, Key::Right, 72, "13 5", "1"},
                {tune, 13, 120, Key::Digit_0, 56, "12 5", "0"},
                {fine, 20, 64, Key::Page_Up, 74, "14 5", "8"},
-               {fine, 20, 64, Key::End, 0, "9 14", "-50"},
-               {fine, 20, 100, Key::Left, 99, "17 9", "28"},
                {fine, 20, 126, Key::Keypad_0, 63, "12 5", "0"}});
   Have(34, 64);
   cutoff.top = 50;
@@ -61,14 +51,11 @@ TEST_F(Elements, A_Drag_Sends_Each_Step_Of_A_Slider_Or_Knob) {
   Picture_Box& fine = Editor.DCO2_FTune_Knopf;
   Have(47, 10);
   Expect_Drags({{attack, 47, 4, -20.5F, 30, true, "135 419"},
-                {attack, 47, 4, -0.5F, 30, true, "135 419"},
                 {attack, 47, 4, 1, 29, true, "135 419"},
                 {attack, 47, 4, -300, 127, true, "135 357"},
                 {attack, 47, 4, 300, 0, true, "135 437"},
                 // Sideways: four pixels are a semitone, halves go to the even neighbour.
                 {tune, 19, 40, -70, 112, true, "16 13"},
-                {tune, 19, 34, 0, 104, true, "17 11"},
-                {tune, 19, 400, 0, 120, true, "15 14"},
                 {tune, 19, -400, 0, 0, true, "9 14"},
                 {fine, 20, -2, 0, 62, true, "12 5"},
                 {fine, 20, 900, 0, 127, true, "15 14"},
@@ -88,15 +75,11 @@ TEST_F(Elements, A_Switch_Drag_Sends_Only_Steps_Of_More_Than_4_On_The_Same_Switc
                 {wave, 12, 4, 60, 0, false, "59 62"},
                 {wave, 12, 4, -500, 127, true, "59 32"},
                 // A switch of three positions lags in the gaps.
-                {chorus, 43, 4, -31, 31, false, "488 418"},
-                {chorus, 43, 4, -1, 32, false, "488 408"},
+                {chorus, 43, 4, -32, 32, false, "488 408"},
                 {chorus, 43, 4, -31, 63, true, "488 408"},
                 {chorus, 43, 4, -1, 64, false, "488 398"},
                 {chorus, 43, 4, 16, 48, true, "488 398"},
-                {chorus, 43, 4, 1, 47, false, "488 408"},
-                {chorus, 43, 4, 31, 16, true, "488 408"},
-                {chorus, 43, 4, -81, 97, true, "488 408"},
-                {chorus, 43, 4, 1, 96, false, "488 398"}});
+                {chorus, 43, 4, 1, 47, false, "488 408"}});
 }
 
 }  // namespace

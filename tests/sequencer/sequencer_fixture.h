@@ -50,7 +50,6 @@ struct Sequencer_Test : Program {
     Menu_MIDI_Seq();
     Sent();
   }
-  bool Start_Is_Down() const { return Editor.ED_Seq_Start.picture() == Button_Dn3D; }
 
   Temporary_Root root;
 };
