@@ -45,7 +45,7 @@ TEST_F(Editor_Test, A_Shown_Tone_Stands_In_Plain_Bands) {
   EXPECT_EQ(Place_Of(Editor.DCO2_Tune_Knopf) + ", " + Place_Of(Editor.DCO2_FTune_Knopf), "15 14, 17 9");
   EXPECT_EQ(Editor.DCO2_Tune.spoken_value() + ", " + Editor.DCO2_FTune.spoken_value() + ", " +
                 Editor.VCA_Mode.spoken_value(),
-            "12 semitones, 28, envelope 2");
+            "plus 12 semitones, plus 28, envelope 2");
   EXPECT_TRUE(Sent().empty());
 }
 

@@ -39,7 +39,8 @@ TEST_F(Patch_Test, Only_The_JX8P_Has_A_Patch_Window) {
   Menu_Tone_Patch();
   EXPECT_EQ(Active_Ctl, &Patch.Portamento_Time);
   EXPECT_TRUE(Sent().empty()) << "showing sends nothing";
-  EXPECT_EQ(Patch.Portamento_Switch.spoken_value() + Patch.Key_Mode[1].spoken_value(), "offoff");
+  EXPECT_EQ(Patch.Portamento_Switch.spoken_value(), "off");
+  EXPECT_FALSE(Patch.Key_Mode[1].is_on());
 }
 
 TEST_F(Patch_Test, Keys_Move_Each_Kind_By_Its_Own_Rule) {
