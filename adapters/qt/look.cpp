@@ -4,11 +4,13 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QWidget>
 
 namespace {
 
+constexpr int Style_Cache_kB = 1024;
 constexpr int Smallest_Text_px = 8;
 constexpr int Display_Margin_px = 1;  // beside the digits, on each side
 
@@ -50,6 +52,9 @@ struct Plain_Style final : QProxyStyle {
 }  // namespace
 
 void Set_Look() {
+  // The style keeps a picture of each button that it has drawn, anew for each window that opens; a tenth of
+  // what the toolkit lets it keep holds all that are seen at a time.
+  QPixmapCache::setCacheLimit(Style_Cache_kB);
   // One style everywhere: others leave wider margins, which would cut the lettering in controls of fixed
   // sizes.
   QApplication::setStyle(new Plain_Style);

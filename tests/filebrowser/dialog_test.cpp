@@ -11,6 +11,32 @@ TEST_F(Dialog_Test, Among_All_Files_None_Does_Anything) {
   EXPECT_EQ(Tone[0], 'M');
 }
 
+TEST_F(Dialog_Test, Each_Kind_Has_Its_Caption_And_Files) {
+  for (const auto& [kind, caption, filter] : {std::tuple{"Open_SYX", "Open Tone File", "Sysex (*.SYX)"},
+                                              {"Open_SEQ", "Open Sequencer File", "Sequence (*.SEQ)"},
+                                              {"SaveAs_SEQ", "Save Sequencer File", "Sequence (*.SEQ)"},
+                                              {"Open_ALL", "Open File", "All Files (*.*)"}}) {
+    Open(kind);
+    EXPECT_EQ(File_Dlg.caption(), caption) << kind;
+    EXPECT_EQ(File_Dlg.FD_List_Filter.items()[0], filter) << kind;
+    Set_Focus(File_Dlg.FD_Button_Cancel);
+    desktop.Key(Key::Space, Shift_Key);
+    EXPECT_TRUE(Is_Open()) << kind;
+    desktop.Key(Key::Space);
+    EXPECT_FALSE(Is_Open()) << kind;
+  }
+}
+
+TEST_F(Dialog_Test, Without_A_Sequence_None_Can_Be_Heard) {
+  MIDI_Enabled = 0;
+  Open("Open_SYX");
+  desktop.Click(File_Dlg.FD_SYX_Button_Start);
+  EXPECT_EQ(Seq_Running, Flag_Off);
+  for (int press = 0; press < 2; ++press) desktop.Click(File_Dlg.FD_SYX_CB_Autoplay);
+  desktop.Click(File_Dlg.FD_SYX_OB_Soundcheck[1]);
+  EXPECT_EQ(Soundcheck, 0);
+}
+
 TEST_F(Dialog_Test, It_Holds_The_Program_Modal_And_Remembers_Where_It_Was) {
   MELVOR.Menu_Windows_SavePos.checked = true;
   Open("Open_SYX");

@@ -25,6 +25,11 @@ TEST_F(Folders_Test, Directories_Open_By_Key_Double_Click_And_Up) {
   desktop.Click(File_Dlg.FD_Button_Updir_Pic);
   EXPECT_EQ(Shown(), "C:\\work|C:\\work");
   Press_Directory("C:\\work\\sub");
+  desktop.Key(Key::Space, Shift_Key);
+  EXPECT_EQ(Shown(), "C:\\work|C:\\work");
+  desktop.Key(Key::Enter);
+  desktop.Click(File_Dlg.FD_Button_Updir_Pic);
+  Press_Directory("C:\\work\\sub");
   Mouse_Double(File_Dlg.FD_List_Dirs, {Left_Button, 0, 4, 4});
   EXPECT_EQ(Shown(), "C:\\work\\sub|C:\\work\\sub");
   Unload(File_Dlg);
@@ -82,6 +87,9 @@ TEST_F(Folders_Test, Delete_Asks_First) {
   Press_Directory("C:\\work\\sub");
   press_delete("C:\\WORK\\SUB", Answer::Yes, " could not be removed. The directory is not empty.");
   std::filesystem::remove(root.host / "work/sub/kept.syx");
+  Press_Directory("C:\\work\\sub");
+  press_delete("C:\\WORK\\SUB", Answer::No);
+  EXPECT_TRUE(root.Names("work").contains("sub"));
   Press_Directory("C:\\work\\sub");
   press_delete("C:\\WORK\\SUB", Answer::Yes);
   EXPECT_FALSE(root.Names("work").contains("sub"));
