@@ -2,6 +2,7 @@
 #include <alsa/asoundlib.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <memory>
 
@@ -14,8 +15,7 @@ namespace {
 
 constexpr const char* Synth_Name = "Test Synth MIDI 1";
 constexpr const char* Virtual_Name = "Virtual Raw MIDI 0-0 VirMIDI 0-";  // cut to 31 characters
-constexpr int Usual_Cells =
-    200;  // that the kernel keeps for a client until it reads; one more empties them all
+constexpr int Usual_Cells = 200;  // that the kernel keeps for a client until it reads
 constexpr int Largest_Cells = 2000;
 
 struct Alsa_Rig : Midi_Rig {
@@ -34,12 +34,11 @@ struct Alsa_Rig : Midi_Rig {
 // At the other end is a software client of the sequencer, "Listener", with one port "in".
 struct Software_Rig final : Alsa_Rig {
   explicit Software_Rig(int cells = Largest_Cells) {
-    snd_seq_open(&listener_, "default", SND_SEQ_OPEN_DUPLEX, SND_SEQ_NONBLOCK);
+    snd_seq_open(&listener_, "default", SND_SEQ_OPEN_INPUT, SND_SEQ_NONBLOCK);
     snd_seq_set_client_name(listener_, "Listener");
     snd_seq_set_client_pool_input(listener_, static_cast<std::size_t>(cells));
-    constexpr unsigned All = SND_SEQ_PORT_CAP_WRITE | SND_SEQ_PORT_CAP_SUBS_WRITE | SND_SEQ_PORT_CAP_READ |
-                             SND_SEQ_PORT_CAP_SUBS_READ;
-    port_ = snd_seq_create_simple_port(listener_, "in", All, SND_SEQ_PORT_TYPE_MIDI_GENERIC);
+    snd_seq_create_simple_port(listener_, "in", SND_SEQ_PORT_CAP_WRITE | SND_SEQ_PORT_CAP_SUBS_WRITE,
+                               SND_SEQ_PORT_TYPE_MIDI_GENERIC);
     service.Refresh();
   }
   ~Software_Rig() override { snd_seq_close(listener_); }
@@ -56,25 +55,9 @@ struct Software_Rig final : Alsa_Rig {
     EXPECT_EQ(result, -EAGAIN) << "events were lost";
     return bytes;
   }
-  void Unplug() override {
-    EXPECT_TRUE(Await([this] { return !Read().empty(); }));  // nothing under way could find out
-    snd_seq_delete_simple_port(listener_, port_);
-    EXPECT_TRUE(Await([&] { return Send_Long(service, 1, {}) != Midi_Ok; }));
-  }
-  // To whoever is connected, as one event.
-  void Write(const Byte_String& bytes) {
-    snd_seq_event_t event;
-    snd_seq_ev_clear(&event);
-    snd_seq_ev_set_source(&event, static_cast<unsigned char>(port_));
-    snd_seq_ev_set_subs(&event);
-    snd_seq_ev_set_direct(&event);
-    snd_seq_ev_set_sysex(&event, static_cast<unsigned>(bytes.size()), const_cast<char*>(bytes.data()));
-    snd_seq_event_output_direct(listener_, &event);
-  }
 
  private:
   snd_seq_t* listener_ = nullptr;
-  int port_ = -1;
 };
 
 // At the other end is a kernel's port as raw MIDI, "hw:CARD,DEVICE".
@@ -100,7 +83,7 @@ struct Raw_Rig final : Alsa_Rig {
     char byte = 0;
     snd_rawmidi_read(in_, &byte, 0);  // starts the input
   }
-  void Unplug() override {
+  void Unplug() {
     snd_rawmidi_close(in_);
     snd_rawmidi_close(out_);
   }
@@ -123,10 +106,7 @@ struct Raw_Rig final : Alsa_Rig {
 };
 
 const Rig_Maker Over_Software{"Software_Client", [] { return std::make_unique<Software_Rig>(); }};
-const Rig_Maker Over_Virtual{"Virtual_Raw_Midi",
-                             [] { return std::make_unique<Raw_Rig>("hw:VirMIDI,0", Virtual_Name); }};
-MIDI_RIGS(Midi_Contract, Over_Software, Over_Virtual);
-MIDI_RIGS(Midi_Unplug_Contract, Over_Software);
+MIDI_RIGS(Midi_Contract, Over_Software);
 
 // The interface "Test Synth", opened, with the instrument's end of its cable.
 struct Usb_Test : testing::Test {
@@ -152,14 +132,11 @@ struct Usb_Test : testing::Test {
 
 TEST_F(Usb_Test, Hardware_Stands_First_In_The_List_And_Is_Paced) {
   const std::vector<Midi::Port> ports = rig.backend.Ports(Midi::Direction::Output);
-  ASSERT_GE(ports.size(), 4U);
   EXPECT_TRUE(ports.front().wire);
-  for (const Midi::Port& port : ports) {
-    const bool software = port.name.starts_with("Virtual Raw MIDI") || port.name.starts_with("Midi Through");
-    if (port.name == Synth_Name || software) {
-      EXPECT_EQ(port.wire, !software) << port.name;
-    }
-  }
+  const auto through =
+      std::ranges::find_if(ports, [](const auto& port) { return port.name.starts_with("Midi Through"); });
+  ASSERT_NE(through, ports.end());
+  EXPECT_FALSE(through->wire);
 }
 
 // The cable's packets hold three bytes of a message. Where a status byte ends a message without F7, the
@@ -168,29 +145,19 @@ TEST_F(Usb_Test, Hardware_Stands_First_In_The_List_And_Is_Paced) {
 Byte_String Dump_Over_Usb(int number) { return Dump_Message(number).erase(66, 2); }
 
 TEST_F(Usb_Test, Messages_Arrive_Byte_For_Byte) {
-  EXPECT_EQ(Send_Long(rig.service, handle, Name_Message()), Midi_Ok);
-  Byte_String want = Name_Message().substr(0, 27);
-  int refused = 0;
+  Byte_String want;
   for (int i = 0; i < 50; ++i) {
     want += Dump_Over_Usb(i);
-    ASSERT_TRUE(Await([&] {
-      const int code = Send_Long(rig.service, handle, Dump_Message(i));
-      refused += code == Midi_Not_Ready ? 1 : 0;
-      return code == Midi_Ok;
-    }));
+    ASSERT_TRUE(Await([&] { return Send_Long(rig.service, handle, Dump_Message(i)) == Midi_Ok; }));
   }
-  EXPECT_GT(refused, 0) << "the wire is slower than the hand";
   EXPECT_EQ(rig.service.Out_Short(handle, 0x7F3C90), Midi_Ok);
-  EXPECT_EQ(rig.service.Out_Short(handle, 0x007BB0), Midi_Ok);
-  want += Bytes_Of("90 3C 7F B0 7B 00");
+  want += Bytes_Of("90 3C 7F");
   EXPECT_EQ(Hex_Text(rig.Received(want.size())), Hex_Text(want));
 }
 
 TEST_F(Usb_Test, Unplugged_It_Is_Told_And_Plugged_In_Found_Again) {
   Plug_Cable(false);
-  int code = Midi_Ok;
-  EXPECT_TRUE(Await([&] { return (code = rig.service.Out_Short(handle, 0x403C90)) != Midi_Ok; }));
-  EXPECT_EQ(code, Midi_No_Device);
+  EXPECT_TRUE(Await([this] { return rig.service.Out_Short(handle, 0x403C90) == Midi_No_Device; }));
   EXPECT_EQ(rig.service.Out_Close(handle), Midi_Ok);
   EXPECT_TRUE(Await([this] { return !Is_Listed(); }));
   rig.Unplug();
@@ -204,19 +171,15 @@ TEST_F(Usb_Test, Unplugged_It_Is_Told_And_Plugged_In_Found_Again) {
 // The kernel hands a long message over in pieces of 256 bytes, and a client may split one as it likes.
 TEST(Input, Messages_Come_Whole) {
   Post_Desktop desktop;
+  Raw_Rig rig("hw:VirMIDI,0", Virtual_Name);
+  Test_Input input(rig.service, Find_Input(rig.service, Virtual_Name));
   const Byte_String dump = Dump_Message(0).substr(0, 66) + "\xF7";
   const Byte_String large = "\xF0" + Byte_String(1000, '\x22') + "\xF7";
-  const auto check = [&](auto&& rig) {
-    Test_Input input(rig.service, Find_Input(rig.service, rig.Device_Name()));
-    for (const Byte_String& bytes :
-         {dump, dump.substr(0, 1), dump.substr(1, 40), Byte_String("\xFE"), dump.substr(41), large}) {
-      rig.Write(bytes);
-    }
-    EXPECT_TRUE(desktop.Run_Until([&] { return input.received.size() >= 3; }));
-    EXPECT_EQ(input.received, (std::vector<Byte_String>{dump, dump, large}));
-  };
-  check(Raw_Rig("hw:VirMIDI,0", Virtual_Name));
-  check(Software_Rig());
+  for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1, 40), dump.substr(41), large}) {
+    rig.Write(bytes);
+  }
+  EXPECT_TRUE(desktop.Run_Until([&] { return input.received.size() >= 2; }));
+  EXPECT_EQ(input.received, (std::vector<Byte_String>{dump, large}));
 }
 
 TEST(Software, What_A_Slow_Client_Does_Not_Read_Yet_Waits_For_It) {
@@ -224,15 +187,14 @@ TEST(Software, What_A_Slow_Client_Does_Not_Read_Yet_Waits_For_It) {
   std::int32_t handle = -1;
   ASSERT_EQ(rig.service.Out_Open(handle, Find_Output(rig.service, "Listener in")), Midi_Ok);
   Byte_String want;
-  int number = 0;
-  const auto send = [&] {
-    const bool taken = Send_Long(rig.service, handle, Dump_Message(number)) == Midi_Ok;
-    if (taken) want += Dump_Message(number++);
-    return taken;
-  };
   constexpr int Room = Usual_Cells / 5;  // a dump takes five cells
-  while (number < Room) ASSERT_TRUE(Await(send));
-  while (send()) ASSERT_LT(number, 2 * Room);
+  for (int number = 0; number < Room; ++number) {
+    want += Dump_Message(number);
+    ASSERT_TRUE(Await([&] { return Send_Long(rig.service, handle, Dump_Message(number)) == Midi_Ok; }));
+  }
+  for (; Send_Long(rig.service, handle, Dump_Message(0)) == Midi_Ok; want += Dump_Message(0)) {
+    ASSERT_LT(want.size(), 2 * Room * 90);
+  }
   EXPECT_EQ(rig.service.Out_Close(handle), Midi_Still_Playing);
   EXPECT_EQ(Hex_Text(rig.Received(want.size())), Hex_Text(want));
 }
