@@ -14,25 +14,14 @@
 namespace {
 
 constexpr const char* Synth_Name = "Test Synth MIDI 1";
-constexpr const char* Virtual_Name = "Virtual Raw MIDI 0-0 VirMIDI 0-";  // cut to 31 characters
 constexpr int Usual_Cells = 200;  // that the kernel keeps for a client until it reads
 constexpr int Largest_Cells = 2000;
 
-struct Alsa_Rig : Midi_Rig {
+// At the other end is a software client of the sequencer, "Listener", with one port "in".
+struct Software_Rig final : Midi_Rig {
   Alsa::Alsa_Backend backend;
   Midi::Service service{{&backend}};
 
-  Midi_Service& Service() override { return service; }
-  Byte_String Received(std::size_t count) override {
-    Byte_String bytes;
-    Await([&] { return (bytes += Read()).size() >= count; });
-    return bytes;
-  }
-  virtual Byte_String Read() = 0;  // what has come, without waiting
-};
-
-// At the other end is a software client of the sequencer, "Listener", with one port "in".
-struct Software_Rig final : Alsa_Rig {
   explicit Software_Rig(int cells = Largest_Cells) {
     snd_seq_open(&listener_, "default", SND_SEQ_OPEN_INPUT, SND_SEQ_NONBLOCK);
     snd_seq_set_client_name(listener_, "Listener");
@@ -43,8 +32,16 @@ struct Software_Rig final : Alsa_Rig {
   }
   ~Software_Rig() override { snd_seq_close(listener_); }
 
+  Midi_Service& Service() override { return service; }
   std::string Device_Name() override { return "Listener in"; }
-  Byte_String Read() override {
+  Byte_String Received(std::size_t count) override {
+    Byte_String bytes;
+    Await([&] { return (bytes += Read()).size() >= count; });
+    return bytes;
+  }
+
+ private:
+  Byte_String Read() {  // what has come, without waiting
     Byte_String bytes;
     snd_seq_event_t* event = nullptr;
     int result = 0;
@@ -56,19 +53,18 @@ struct Software_Rig final : Alsa_Rig {
     return bytes;
   }
 
- private:
   snd_seq_t* listener_ = nullptr;
 };
 
-// At the other end is a kernel's port as raw MIDI, "hw:CARD,DEVICE".
-struct Raw_Rig final : Alsa_Rig {
-  Raw_Rig(std::string device, std::string name) : device_(std::move(device)), name_(std::move(name)) {
-    Plug();
-  }
-  ~Raw_Rig() override { Unplug(); }
+// The instrument's end of the cable of the interface "Test Synth", as raw MIDI.
+struct Cable_End {
+  Cable_End() { Plug(); }
+  ~Cable_End() { Unplug(); }
+  Cable_End(const Cable_End&) = delete;
+  Cable_End& operator=(const Cable_End&) = delete;
 
   void Plug() {
-    ASSERT_GE(snd_rawmidi_open(&in_, &out_, device_.c_str(), 0), 0);
+    ASSERT_GE(snd_rawmidi_open(&in_, &out_, "hw:fmidi,0", 0), 0);
     snd_rawmidi_params_t* params = nullptr;
     snd_rawmidi_params_alloca(&params);
     snd_rawmidi_params_current(in_, params);
@@ -87,10 +83,13 @@ struct Raw_Rig final : Alsa_Rig {
     snd_rawmidi_close(in_);
     snd_rawmidi_close(out_);
   }
-  std::string Device_Name() override { return name_; }
-  Byte_String Read() override {
-    Byte_String bytes(4096, '\0');
-    bytes.resize(static_cast<std::size_t>(std::max(0L, snd_rawmidi_read(in_, bytes.data(), bytes.size()))));
+  Byte_String Received(std::size_t count) {
+    Byte_String bytes;
+    char byte = 0;
+    Await([&] {
+      while (snd_rawmidi_read(in_, &byte, 1) == 1) bytes += byte;
+      return bytes.size() >= count;
+    });
     return bytes;
   }
   void Write(const Byte_String& bytes) {
@@ -99,8 +98,6 @@ struct Raw_Rig final : Alsa_Rig {
   }
 
  private:
-  std::string device_;
-  std::string name_;
   snd_rawmidi_t* in_ = nullptr;
   snd_rawmidi_t* out_ = nullptr;
 };
@@ -108,17 +105,16 @@ struct Raw_Rig final : Alsa_Rig {
 const Rig_Maker Over_Software{"Software_Client", [] { return std::make_unique<Software_Rig>(); }};
 MIDI_RIGS(Midi_Contract, Over_Software);
 
-// The interface "Test Synth", opened, with the instrument's end of its cable.
 struct Usb_Test : testing::Test {
   void SetUp() override {
     ASSERT_TRUE(Await([this] { return Is_Listed(); }));
-    ASSERT_EQ(rig.service.Out_Open(handle, Find_Output(rig.service, Synth_Name)), Midi_Ok);
+    ASSERT_EQ(service.Out_Open(handle, Find_Output(service, Synth_Name)), Midi_Ok);
   }
-  void TearDown() override { EXPECT_EQ(Close_Output(rig.service, handle), Midi_Ok); }
+  void TearDown() override { EXPECT_EQ(Close_Output(service, handle), Midi_Ok); }
 
   bool Is_Listed() {
-    rig.service.Refresh();
-    return Find_Output(rig.service, Synth_Name) >= 0;
+    service.Refresh();
+    return Find_Output(service, Synth_Name) >= 0;
   }
   void Plug_Cable(bool in) {
     std::ofstream udc("/config/usb_gadget/synth/UDC");
@@ -126,12 +122,14 @@ struct Usb_Test : testing::Test {
     ASSERT_TRUE(udc.good());
   }
 
-  Raw_Rig rig{"hw:fmidi,0", Synth_Name};
+  Alsa::Alsa_Backend backend;
+  Midi::Service service{{&backend}};
+  Cable_End instrument;
   std::int32_t handle = -1;
 };
 
 TEST_F(Usb_Test, Hardware_Stands_First_In_The_List_And_Is_Paced) {
-  const std::vector<Midi::Port> ports = rig.backend.Ports(Midi::Direction::Output);
+  const std::vector<Midi::Port> ports = backend.Ports(Midi::Direction::Output);
   EXPECT_TRUE(ports.front().wire);
   const auto through =
       std::ranges::find_if(ports, [](const auto& port) { return port.name.starts_with("Midi Through"); });
@@ -148,36 +146,33 @@ TEST_F(Usb_Test, Messages_Arrive_Byte_For_Byte) {
   Byte_String want;
   for (int i = 0; i < 50; ++i) {
     want += Dump_Over_Usb(i);
-    ASSERT_TRUE(Await([&] { return Send_Long(rig.service, handle, Dump_Message(i)) == Midi_Ok; }));
+    ASSERT_TRUE(Await([&] { return Send_Long(service, handle, Dump_Message(i)) == Midi_Ok; }));
   }
-  EXPECT_EQ(rig.service.Out_Short(handle, 0x7F3C90), Midi_Ok);
+  EXPECT_EQ(service.Out_Short(handle, 0x7F3C90), Midi_Ok);
   want += Bytes_Of("90 3C 7F");
-  EXPECT_EQ(Hex_Text(rig.Received(want.size())), Hex_Text(want));
+  EXPECT_EQ(Hex_Text(instrument.Received(want.size())), Hex_Text(want));
 }
 
 TEST_F(Usb_Test, Unplugged_It_Is_Told_And_Plugged_In_Found_Again) {
   Plug_Cable(false);
-  EXPECT_TRUE(Await([this] { return rig.service.Out_Short(handle, 0x403C90) == Midi_No_Device; }));
-  EXPECT_EQ(rig.service.Out_Close(handle), Midi_Ok);
+  EXPECT_TRUE(Await([this] { return service.Out_Short(handle, 0x403C90) == Midi_No_Device; }));
+  EXPECT_EQ(service.Out_Close(handle), Midi_Ok);
   EXPECT_TRUE(Await([this] { return !Is_Listed(); }));
-  rig.Unplug();
+  instrument.Unplug();
   Plug_Cable(true);
-  rig.Plug();
+  instrument.Plug();
   SetUp();
-  EXPECT_EQ(Send_Long(rig.service, handle, Dump_Message(2)), Midi_Ok);
-  EXPECT_EQ(Hex_Text(rig.Received(88)), Hex_Text(Dump_Over_Usb(2)));
+  EXPECT_EQ(Send_Long(service, handle, Dump_Message(2)), Midi_Ok);
+  EXPECT_EQ(Hex_Text(instrument.Received(88)), Hex_Text(Dump_Over_Usb(2)));
 }
 
-// The kernel hands a long message over in pieces of 256 bytes, and a client may split one as it likes.
-TEST(Input, Messages_Come_Whole) {
+// The kernel hands a long message over in pieces of 256 bytes.
+TEST_F(Usb_Test, An_Input_Joins_What_Comes_In_Pieces) {
   Post_Desktop desktop;
-  Raw_Rig rig("hw:VirMIDI,0", Virtual_Name);
-  Test_Input input(rig.service, Find_Input(rig.service, Virtual_Name));
+  Test_Input input(service, Find_Input(service, Synth_Name));
   const Byte_String dump = Dump_Message(0).substr(0, 66) + "\xF7";
   const Byte_String large = "\xF0" + Byte_String(1000, '\x22') + "\xF7";
-  for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1, 40), dump.substr(41), large}) {
-    rig.Write(bytes);
-  }
+  for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1), large}) instrument.Write(bytes);
   EXPECT_TRUE(desktop.Run_Until([&] { return input.received.size() >= 2; }));
   EXPECT_EQ(input.received, (std::vector<Byte_String>{dump, large}));
 }
