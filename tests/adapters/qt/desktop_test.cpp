@@ -89,18 +89,6 @@ TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
   }
 }
 
-TEST_F(Desk, The_Bottom_Child_Stays_Below) {
-  Form floor(Form_Role::Child, "FLOOR");
-  floor.border = Border::None;
-  floor.bottom = true;
-  Place(floor, 99, 0, 528, 400);
-  Show_Windows();
-  Show(floor);
-  EXPECT_EQ(Active_Form(), &floor);
-  EXPECT_EQ(Widget("FLOOR").mapTo(&Widget("FRAME"), QPoint()), QPoint(0, 0)) << "fixed at the corner";
-  EXPECT_EQ(Widget("FRAME").childAt(150, 120), &Widget("PANEL")) << "the active one is still below";
-}
-
 TEST_F(Desk, The_User_Moves_And_Closes_By_The_Title_Bar) {
   panel.on_query_unload = [&](bool& cancel) {
     Note("query");
