@@ -100,10 +100,10 @@ struct Filebrowser_Test : Program {
   // What went over the wire: a tone dump as "dump" and the first letter of its name.
   std::string Heard() {
     std::string heard;
-    for (const Sent_Message& message : service.Take_Sent()) {
-      const bool dump = message.bytes.size() == 90;
+    for (const Byte_String& message : service.Take_Sent()) {
+      const bool dump = message.size() == 90;
       heard += (heard.empty() ? "" : ", ") +
-               (dump ? "dump " + message.bytes.substr(7, 1) : Hex_Text(message.bytes));
+               (dump ? "dump " + message.substr(7, 1) : Hex_Text(message));
     }
     return heard;
   }

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <ostream>
-
 namespace {
 
 std::size_t Short_Length(unsigned status) {
@@ -23,17 +20,7 @@ int Fill_Name(const std::vector<std::string>& names, int device, Caps& caps) {
   return Midi_Ok;
 }
 
-int Misuse(int code, const char* what) {
-  ADD_FAILURE() << what;
-  return code;
-}
-
 }  // namespace
-
-void PrintTo(const Sent_Message& message, std::ostream* out) {
-  constexpr const char* Kinds[] = {"short ", "long ", "ignored "};
-  *out << Kinds[static_cast<int>(message.kind)] << Hex_Text(message.bytes);
-}
 
 std::string Hex_Text(std::string_view bytes) {
   constexpr std::string_view Digits = "0123456789ABCDEF";
@@ -60,10 +47,6 @@ Byte_String Bytes_Of(std::string_view hex_text) {
 Recording_Service::Recording_Service() { Install_Midi_Service(this); }
 Recording_Service::~Recording_Service() { Install_Midi_Service(nullptr); }
 
-void Recording_Service::Fail_Next(Midi_Operation operation, int code, int times) {
-  failures_[operation] = {code, times};
-}
-
 void Recording_Service::Unplug() {
   out_.names.clear();
   in_.names.clear();
@@ -83,26 +66,16 @@ bool Recording_Service::Deliver(Byte_String bytes) {
   return true;
 }
 
-std::vector<Sent_Message> Recording_Service::Take_Sent() { return std::exchange(sent_, {}); }
-
 std::vector<std::string> Recording_Service::Take_Hex() {
   std::vector<std::string> texts;
-  for (const Sent_Message& message : Take_Sent()) {
-    if (message.kind != Sent_Kind::Ignored) texts.push_back(Hex_Text(message.bytes));
-  }
+  for (const Byte_String& message : Take_Sent()) texts.push_back(Hex_Text(message));
   return texts;
 }
 
 Byte_String Recording_Service::Wire() const {
   Byte_String bytes;
-  for (const Sent_Message& message : sent_) {
-    if (message.kind != Sent_Kind::Ignored) bytes += message.bytes;
-  }
+  for (const Byte_String& message : sent_) bytes += message;
   return bytes;
-}
-
-int Recording_Service::Calls(Midi_Operation operation) const {
-  return calls_.contains(operation) ? calls_.at(operation) : 0;
 }
 
 int Recording_Service::Enter(Midi_Operation operation) {
@@ -113,14 +86,13 @@ int Recording_Service::Enter(Midi_Operation operation) {
 
 int Recording_Service::Enter(Midi_Operation operation, std::int32_t handle, const Side& side) {
   const int scripted = Enter(operation);
-  if (handle == side.handle && handle > 0) return scripted;
-  return handle <= 0 ? Midi_Invalid_Handle : Misuse(Midi_Invalid_Handle, "a handle that is not open");
+  return handle == side.handle && handle > 0 ? scripted : Midi_Invalid_Handle;
 }
 
 int Recording_Service::Open(Midi_Operation operation, Side& side, std::int32_t& handle, int device) {
   if (const int scripted = Enter(operation)) return scripted;
   if (device < 0 || device >= static_cast<int>(side.names.size())) return Midi_Bad_Device;
-  if (side.handle != 0) return Misuse(Midi_Allocated, "a device is opened while one is open");
+  if (side.handle != 0) return Midi_Allocated;
   handle = side.handle = ++last_handle_;
   return Midi_Ok;
 }
@@ -128,19 +100,21 @@ int Recording_Service::Open(Midi_Operation operation, Side& side, std::int32_t& 
 int Recording_Service::Prepare(Midi_Operation operation, std::int32_t handle, const Side& side,
                                MIDI_Header& header) {
   const int code = Enter(operation, handle, side);
-  prepare_failed_ = code != Midi_Ok;
   if (code == Midi_Ok) header.flags |= Header_Prepared;
   return code;
 }
 
-int Recording_Service::Take(Sent_Message message) {
+int Recording_Service::Unprepare(Midi_Operation operation, std::int32_t handle, const Side& side,
+                                 MIDI_Header& header) {
+  const int code = Enter(operation, handle, side);
+  if (code == Midi_Ok) header.flags &= ~Header_Prepared;
+  return code;
+}
+
+int Recording_Service::Take(Byte_String message) {
   if (unplugged_) return Midi_No_Device;
   sent_.push_back(std::move(message));
   return Midi_Ok;
-}
-
-bool Recording_Service::Holds(const MIDI_Header& header) const {
-  return std::ranges::find(buffers_, &header) != buffers_.end();
 }
 
 void Recording_Service::Stop() {
@@ -149,14 +123,10 @@ void Recording_Service::Stop() {
 }
 
 int Recording_Service::Out_Caps(int device, MIDI_Out_Caps& caps) {
-  const int scripted = Enter(Midi_Operation::Out_Caps);
-  return scripted != Midi_Ok ? scripted : Fill_Name(out_.names, device, caps);
+  return Fill_Name(out_.names, device, caps);
 }
 
-int Recording_Service::In_Caps(int device, MIDI_In_Caps& caps) {
-  const int scripted = Enter(Midi_Operation::In_Caps);
-  return scripted != Midi_Ok ? scripted : Fill_Name(in_.names, device, caps);
-}
+int Recording_Service::In_Caps(int device, MIDI_In_Caps& caps) { return Fill_Name(in_.names, device, caps); }
 
 int Recording_Service::Out_Open(std::int32_t& handle, int device) {
   const int code = Open(Midi_Operation::Out_Open, out_, handle, device);
@@ -169,9 +139,7 @@ int Recording_Service::Out_Short(std::int32_t handle, std::uint32_t message) {
   Byte_String bytes;
   for (unsigned shift = 0; shift < 24; shift += 8) bytes += static_cast<char>(message >> shift & 0xFFU);
   const unsigned status = message & 0xFFU;
-  if (status >= 0x80) return Take({Sent_Kind::Short, bytes.substr(0, Short_Length(status))});
-  sent_.push_back({Sent_Kind::Ignored, bytes});
-  return Midi_Ok;
+  return status < 0x80 ? Midi_Ok : Take(bytes.substr(0, Short_Length(status)));
 }
 
 int Recording_Service::Out_Prepare(std::int32_t handle, MIDI_Header& header) {
@@ -180,21 +148,14 @@ int Recording_Service::Out_Prepare(std::int32_t handle, MIDI_Header& header) {
 
 int Recording_Service::Out_Long(std::int32_t handle, MIDI_Header& header) {
   if (const int code = Enter(Midi_Operation::Out_Long, handle, out_)) return code;
-  if ((header.flags & Header_Prepared) == 0) {
-    return prepare_failed_ ? Midi_Unprepared : Misuse(Midi_Unprepared, "the header was not prepared");
-  }
-  if (header.buffer_length > header.data.size()) {
-    return Misuse(Midi_Invalid_Parameter, "a header that is longer than its data");
-  }
-  const int code = Take({Sent_Kind::Long, header.data.substr(0, header.buffer_length)});
+  if ((header.flags & Header_Prepared) == 0) return Midi_Unprepared;
+  const int code = Take(header.data.substr(0, header.buffer_length));
   if (code == Midi_Ok) header.flags |= Header_Done;
   return code;
 }
 
 int Recording_Service::Out_Unprepare(std::int32_t handle, MIDI_Header& header) {
-  if (const int code = Enter(Midi_Operation::Out_Unprepare, handle, out_)) return code;
-  header.flags &= ~Header_Prepared;
-  return Midi_Ok;
+  return Unprepare(Midi_Operation::Out_Unprepare, handle, out_, header);
 }
 
 int Recording_Service::Out_Close(std::int32_t handle) {
@@ -215,18 +176,14 @@ int Recording_Service::In_Prepare(std::int32_t handle, MIDI_Header& header) {
 
 int Recording_Service::In_Add_Buffer(std::int32_t handle, MIDI_Header& header) {
   if (const int code = Enter(Midi_Operation::In_Add_Buffer, handle, in_)) return code;
-  if ((header.flags & Header_Prepared) == 0) return Misuse(Midi_Unprepared, "the buffer was not prepared");
-  if (Holds(header)) return Misuse(Midi_Still_Playing, "a buffer is added twice");
+  if ((header.flags & Header_Prepared) == 0) return Midi_Unprepared;
   header.flags &= ~Header_Done;
   buffers_.push_back(&header);
   return Midi_Ok;
 }
 
 int Recording_Service::In_Unprepare(std::int32_t handle, MIDI_Header& header) {
-  if (const int code = Enter(Midi_Operation::In_Unprepare, handle, in_)) return code;
-  if (Holds(header)) return Misuse(Midi_Still_Playing, "the input still has the buffer");
-  header.flags &= ~Header_Prepared;
-  return Midi_Ok;
+  return Unprepare(Midi_Operation::In_Unprepare, handle, in_, header);
 }
 
 int Recording_Service::In_Start(std::int32_t handle) {
@@ -247,10 +204,4 @@ int Recording_Service::In_Close(std::int32_t handle) {
   receiver_ = nullptr;
   in_.handle = 0;
   return Midi_Ok;
-}
-
-std::string Recording_Service::Error_Text(int code) {
-  const bool known =
-      (code > 0 && code <= Midi_Invalid_Parameter) || (code >= Midi_Unprepared && code <= Midi_No_Device);
-  return known ? "Text of " + std::to_string(code) : std::string();
 }

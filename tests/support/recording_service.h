@@ -1,11 +1,8 @@
 // A MIDI service that keeps what it is given, for tests: small verbs to script it and to look at what was
-// sent. It installs itself while it lives. Calls that no careful program makes fail the test: a handle above
-// 0 that is not open, an output opened twice, a long message whose header was never prepared, a buffer added
-// twice. Handles of 0 and below answer 5 without failing, since the program is known to try with a closed
-// handle.
+// sent. It installs itself while it lives. A call that no careful program makes is answered by its code,
+// which the program tells in a box that no test expects.
 #pragma once
 
-#include <iosfwd>
 #include <map>
 #include <string>
 #include <string_view>
@@ -14,31 +11,17 @@
 
 #include "platform/midi_service.h"
 
-// Ignored: a short message that does not begin with a status byte, of three bytes, which went nowhere.
-enum class Sent_Kind { Short, Long, Ignored };
-
-struct Sent_Message {
-  Sent_Kind kind = Sent_Kind::Short;
-  Byte_String bytes;
-
-  bool operator==(const Sent_Message&) const = default;
-};
-void PrintTo(const Sent_Message& message, std::ostream* out);
-
 // "F0 41 36" and back; blanks are free.
 std::string Hex_Text(std::string_view bytes);
 Byte_String Bytes_Of(std::string_view hex_text);
 
 enum class Midi_Operation {
-  Refresh,
-  Out_Caps,
   Out_Open,
   Out_Short,
   Out_Prepare,
   Out_Long,
   Out_Unprepare,
   Out_Close,
-  In_Caps,
   In_Open,
   In_Prepare,
   In_Add_Buffer,
@@ -59,24 +42,23 @@ struct Recording_Service final : Midi_Service {
   // Names of up to 31 characters; seen at once, also without Refresh.
   void Outputs(std::vector<std::string> names) { out_.names = std::move(names); }
   void Inputs(std::vector<std::string> names) { in_.names = std::move(names); }
-  void Fail_Next(Midi_Operation operation, int code, int times = 1);
+  void Fail_Next(Midi_Operation operation, int code, int times = 1) { failures_[operation] = {code, times}; }
   void Answer_65(int times) { Fail_Next(Midi_Operation::Out_Close, Midi_Still_Playing, times); }
   void Unplug();                    // every device goes; messages to an open output are answered with 68
   bool Deliver(Byte_String bytes);  // to the started input; false: no input, or no buffer for it
 
   // --- what was seen
-  const std::vector<Sent_Message>& Sent() const { return sent_; }
-  std::vector<Sent_Message> Take_Sent();  // and forgets them
-  std::vector<std::string> Take_Hex();    // what went over the wire only, one text per message; forgets all
-  Byte_String Wire() const;               // all bytes that went over the wire, one after another
-  int Calls(Midi_Operation operation) const;
+  const std::vector<Byte_String>& Sent() const { return sent_; }
+  std::vector<Byte_String> Take_Sent() { return std::exchange(sent_, {}); }
+  std::vector<std::string> Take_Hex();  // as texts; forgets them too
+  Byte_String Wire() const;             // all bytes that went over the wire, one after another
+  int Calls(Midi_Operation operation) { return calls_[operation]; }
   bool Out_Is_Open() const { return out_.handle != 0; }
   bool In_Is_Open() const { return in_.handle != 0; }
-  bool In_Is_Started() const { return started_; }
   int Free_Buffers() const { return static_cast<int>(buffers_.size()); }
 
   // --- the service
-  void Refresh() override { Enter(Midi_Operation::Refresh); }
+  void Refresh() override {}
   int Out_Count() override { return static_cast<int>(out_.names.size()); }
   int Out_Caps(int device, MIDI_Out_Caps& caps) override;
   int Out_Open(std::int32_t& handle, int device) override;
@@ -94,8 +76,9 @@ struct Recording_Service final : Midi_Service {
   int In_Start(std::int32_t handle) override;
   int In_Reset(std::int32_t handle) override;
   int In_Close(std::int32_t handle) override;
-  // "Text of 5" and so on for the codes of the interface, else empty.
-  std::string Error_Text(int code) override;
+  std::string Error_Text(int code) override {
+    return code <= Midi_No_Device ? "Text of " + std::to_string(code) : std::string();
+  }
 
  private:
   // The outputs, or the inputs: their names, and the one that is open.
@@ -112,19 +95,18 @@ struct Recording_Service final : Midi_Service {
   int Enter(Midi_Operation operation, std::int32_t handle, const Side& side);
   int Open(Midi_Operation operation, Side& side, std::int32_t& handle, int device);
   int Prepare(Midi_Operation operation, std::int32_t handle, const Side& side, MIDI_Header& header);
-  int Take(Sent_Message message);
-  bool Holds(const MIDI_Header& header) const;
+  int Unprepare(Midi_Operation operation, std::int32_t handle, const Side& side, MIDI_Header& header);
+  int Take(Byte_String message);
   void Stop();
 
   Side out_;
   Side in_;
   std::map<Midi_Operation, Failure> failures_;
   std::map<Midi_Operation, int> calls_;
-  std::vector<Sent_Message> sent_;
+  std::vector<Byte_String> sent_;
   std::vector<MIDI_Header*> buffers_;
   Midi_Receiver receiver_;
   std::int32_t last_handle_ = 0;
   bool started_ = false;
   bool unplugged_ = false;
-  bool prepare_failed_ = false;
 };

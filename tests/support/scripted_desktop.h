@@ -58,7 +58,6 @@ struct Scripted_Desktop final : Still_Desktop {
   int Pixels_Per_Inch() override { return pixels_per_inch; }
   bool Add_Font(std::string_view host_path) override;
   int Remove_Font(std::string_view host_path) override;
-  void Bring_To_Front(Form& form) override { front = &form; }
   void Changed(Component& component) override { changed.insert(&component); }
   void Forget(Component& component) override { changed.erase(&component); }
   std::int64_t Now_us() override { return now_us; }
@@ -77,7 +76,6 @@ struct Scripted_Desktop final : Still_Desktop {
   std::vector<std::string> sounds;
   int beeps = 0;
   bool quit = false;
-  Form* front = nullptr;
   std::set<Component*> changed;
   int events_run = 0;  // how often pending events were let run
 

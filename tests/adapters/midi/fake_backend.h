@@ -15,18 +15,12 @@
 struct Fake_Port {
   std::atomic<bool> busy = false;
   std::atomic<bool> gone = false;
-  std::atomic<int> writes = 0;
 
   std::string Bytes() {
     const std::lock_guard lock(mutex_);
     return bytes_;
   }
-  std::string Take_Bytes() {
-    const std::lock_guard lock(mutex_);
-    return std::exchange(bytes_, {});
-  }
   Midi::Write_Result Write(std::string_view bytes) {
-    ++writes;
     if (gone) return Midi::Write_Result::Gone;
     if (busy) return Midi::Write_Result::Busy;
     const std::lock_guard lock(mutex_);

@@ -51,13 +51,6 @@ struct Jack_Peer {
     const std::lock_guard lock(mutex_);
     to_send_.push_back(bytes);
   }
-  std::vector<std::string> Connections() const {  // of "in"
-    std::vector<std::string> list;
-    const char** names = jack_port_get_all_connections(client_, in_);
-    for (const char** name = names; name != nullptr && *name != nullptr; ++name) list.emplace_back(*name);
-    jack_free(names);
-    return list;
-  }
 
  private:
   static void Die(void* self) { static_cast<Jack_Peer*>(self)->dead_ = true; }
