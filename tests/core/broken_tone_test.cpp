@@ -1,8 +1,8 @@
 // A tone file with any one of its bytes changed, or cut short at any place: the place alone tells what comes
 // of it.
 #include "core/tone_files.h"
-#include "support/temporary_root.h"
 #include "support/program.h"
+#include "support/temporary_root.h"
 
 namespace {
 
