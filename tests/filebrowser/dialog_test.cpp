@@ -15,7 +15,8 @@ TEST_F(Dialog_Test, Each_Kind_Has_Its_Caption_And_Files) {
   for (const auto& [kind, caption, filter] : {std::tuple{"Open_SYX", "Open Tone File", "Sysex (*.SYX)"},
                                               {"Open_SEQ", "Open Sequencer File", "Sequence (*.SEQ)"},
                                               {"SaveAs_SEQ", "Save Sequencer File", "Sequence (*.SEQ)"},
-                                              {"Open_ALL", "Open File", "All Files (*.*)"}}) {
+                                              {"Open_ALL", "Open File", "All Files (*.*)"},
+                                              {"", "File", "All Files (*.*)"}}) {
     Open(kind);
     EXPECT_EQ(File_Dlg.caption(), caption) << kind;
     EXPECT_EQ(File_Dlg.FD_List_Filter.items()[0], filter) << kind;
@@ -28,13 +29,21 @@ TEST_F(Dialog_Test, Each_Kind_Has_Its_Caption_And_Files) {
 }
 
 TEST_F(Dialog_Test, Without_A_Sequence_None_Can_Be_Heard) {
-  MIDI_Enabled = 0;
-  Open("Open_SYX");
-  desktop.Click(File_Dlg.FD_SYX_Button_Start);
-  EXPECT_EQ(Seq_Running, Flag_Off);
-  for (int press = 0; press < 2; ++press) desktop.Click(File_Dlg.FD_SYX_CB_Autoplay);
-  desktop.Click(File_Dlg.FD_SYX_OB_Soundcheck[1]);
-  EXPECT_EQ(Soundcheck, 0);
+  for (const auto& [loaded, saved, offered] :
+       {std::tuple{Flag_Off, Flag_On, 0}, {Flag_On, Flag_On, 1}, {Flag_Off, Flag_Off, 1}}) {
+    Seq_Loaded = loaded;
+    Seq_Saved = saved;
+    Soundcheck = 0;
+    Open("Open_SYX");
+    for (int press = 0; press < 2; ++press) desktop.Click(File_Dlg.FD_SYX_CB_Autoplay);
+    desktop.Click(File_Dlg.FD_SYX_OB_Soundcheck[1]);
+    EXPECT_EQ(Soundcheck, offered);
+    MIDI_Enabled = 0;
+    desktop.Click(File_Dlg.FD_SYX_Button_Start);
+    EXPECT_EQ(Seq_Running, Flag_Off);
+    MIDI_Enabled = 1;
+    Unload(File_Dlg);
+  }
 }
 
 TEST_F(Dialog_Test, It_Holds_The_Program_Modal_And_Remembers_Where_It_Was) {
