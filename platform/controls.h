@@ -58,8 +58,8 @@ struct Control : Component {
   Property<std::string> tag{*this};
   Property<std::string> tool_tip{*this};
 
-  int tab_index =
-      -1;  // place in the order of Tab; -1: takes no focus. A label never does: its access key goes on
+  // Place in the order of Tab; -1: takes no focus. A label never does: its access key goes on.
+  int tab_index = -1;
   int help_context = 0;                       // 0: none
   bool mouse_through = false;                 // presses on it count as presses on its container
   std::string spoken_name;                    // in plain words, "VCF cutoff frequency"
