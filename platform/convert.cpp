@@ -9,15 +9,6 @@
 namespace {
 
 template <class Integer>
-int Round_To(double value) {
-  const double nearest = std::nearbyint(value);  // in the default rounding mode ties go to the even neighbour
-  if (!(nearest >= std::numeric_limits<Integer>::min() && nearest <= std::numeric_limits<Integer>::max())) {
-    throw Runtime_Error(Error_Overflow);  // not a number comes here too
-  }
-  return static_cast<int>(nearest);
-}
-
-template <class Integer>
 Integer Checked(int value) {
   if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max()) {
     throw Runtime_Error(Error_Overflow);
@@ -27,9 +18,14 @@ Integer Checked(int value) {
 
 }  // namespace
 
-int Round_16(double value) { return Round_To<std::int16_t>(value); }
-
-int Round_32(double value) { return Round_To<std::int32_t>(value); }
+int Round_16(double value) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  const double nearest = std::nearbyint(value);  // in the default rounding mode ties go to the even neighbour
+  if (!(nearest >= Limits::min() && nearest <= Limits::max())) {
+    throw Runtime_Error(Error_Overflow);  // not a number comes here too
+  }
+  return static_cast<int>(nearest);
+}
 
 std::uint8_t To_Byte(int value) { return Checked<std::uint8_t>(value); }
 

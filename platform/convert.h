@@ -5,8 +5,6 @@
 
 // To the nearest integer, a tie to the even neighbour. Runtime_Error 6 beyond 16 bits with sign.
 int Round_16(double value);
-// The same into 32 bits.
-int Round_32(double value);
 
 // The value as a byte, [0, 255], or as a 16-bit number with sign, [-32768, 32767]; else Runtime_Error 6.
 std::uint8_t To_Byte(int value);
