@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/events.h"
@@ -204,6 +205,17 @@ struct Painted_Picture {
   bool operator==(const Painted_Picture&) const = default;
 };
 
+// The squares of a canvas that is worked square by square, counted from 0: down the first column, then down
+// the next. Each has a name and a value in plain words, and two things that it can be made, by the mouse
+// buttons.
+struct Cells {
+  int rows = 0;  // of a column
+  int size_px = 0;
+  std::function<std::string(int)> spoken_name;  // empty: the canvas has no cells
+  std::function<std::string(int)> spoken_value;
+  std::string_view left_action, right_action;
+};
+
 // A drawing surface: pictures painted at places, one over the other.
 struct Canvas final : Control {
   template <class Owner>
@@ -216,6 +228,7 @@ struct Canvas final : Control {
   Property<std::vector<Painted_Picture>> painted{*this};
   Property<Color> back_color{*this, Black};
   Property<Picture> picture{*this};  // background
+  Cells cells;
 };
 
 // A straight line on its container.

@@ -57,20 +57,31 @@ void Name(Control& control, int tab, std::string_view spoken) {
   control.spoken_name = spoken;
 }
 
+std::string_view Note_Name(int cell) {
+  return Note_Names[static_cast<std::size_t>(Seq_Row_Count - 1 - cell % Seq_Row_Count)];
+}
+
+std::string Step_Name(int cell) { return "step " + std::to_string(cell / Seq_Row_Count + 1); }
+
+std::string Spoken_Cell(int cell) {
+  const int velocity = Seq_Data[static_cast<std::size_t>(cell)];
+  if (velocity == Seq_Strong) return "strong";
+  return velocity == Seq_Soft ? "soft" : "";
+}
+
 // "step 1: C strong, upper C soft; step 3: E strong"
 std::string Spoken_Matrix() {
   std::string steps;
   for (int step = 0; step < Seq_Step_Count; ++step) {
     std::string notes;
     for (int row = Seq_Row_Count - 1; row >= 0; --row) {
-      const int velocity = Seq_Data[static_cast<std::size_t>(step * Seq_Row_Count + row)];
-      if (velocity != Seq_Strong && velocity != Seq_Soft) continue;
-      notes += (notes.empty() ? " " : ", ") +
-               std::string(Note_Names[static_cast<std::size_t>(Seq_Row_Count - 1 - row)]) +
-               (velocity == Seq_Strong ? " strong" : " soft");
+      const int cell = step * Seq_Row_Count + row;
+      const std::string velocity = Spoken_Cell(cell);
+      if (velocity.empty()) continue;
+      notes += (notes.empty() ? " " : ", ") + std::string(Note_Name(cell)) + " " + velocity;
     }
     if (notes.empty()) continue;
-    steps += (steps.empty() ? "step " : "; step ") + std::to_string(step + 1) + ":" + notes;
+    steps += (steps.empty() ? "" : "; ") + Step_Name(step * Seq_Row_Count) + ":" + notes;
   }
   return steps.empty() ? "empty" : steps;
 }
@@ -80,6 +91,14 @@ void Place_Matrix() {
                              Seq_Row_Count * Pitch_px - 1);
   Sequencer.Seq_Matrix.spoken_name = "Note matrix";
   Sequencer.Seq_Matrix.spoken_value = Spoken_Matrix;
+  Sequencer.Seq_Matrix.cells = {
+      .rows = Seq_Row_Count,
+      .size_px = Pitch_px,
+      .spoken_name = [](int cell) { return std::string(Note_Name(cell)) + ", " + Step_Name(cell); },
+      .spoken_value = Spoken_Cell,
+      .left_action = "Strong",
+      .right_action = "Soft",
+  };
   Sequencer.Seq_Matrix.tool_tip = "Left button: strong note; right button: soft note";
   for (int key = 0; key < Seq_Row_Count; ++key) {
     Picture_Box& box = Sequencer.Seq_Keys[static_cast<std::size_t>(key)];

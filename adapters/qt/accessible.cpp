@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <cmath>
 
+#include "adapters/qt/accessible_cells.h"
 #include "adapters/qt/picture_views.h"
 #include "adapters/qt/qt_text.h"
 #include "adapters/qt/shell.h"
@@ -44,7 +45,19 @@ void Work(Control* control, Deed deed) {
 
 // What a light view shows: an element of a panel, a canvas, or a mere decoration.
 struct Light_Accessible final : QAccessibleWidget, QAccessibleValueInterface {
-  explicit Light_Accessible(Light_Widget& light) : QAccessibleWidget(&light), light_(light) {}
+  explicit Light_Accessible(Light_Widget& light)
+      : QAccessibleWidget(&light), light_(light), cells_(light, [&light](const Mouse_Event& place) {
+          Control* canvas = light.control;
+          Work(canvas, [canvas, place] { User_Pressed(*canvas, place); });
+        }) {}
+
+  int childCount() const override { return Has_Cells() ? cells_.Count() : QAccessibleWidget::childCount(); }
+  QAccessibleInterface* child(int index) const override {
+    return Has_Cells() ? cells_.Cell(index) : QAccessibleWidget::child(index);
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    return Has_Cells() ? cells_.Index_Of(child) : QAccessibleWidget::indexOfChild(child);
+  }
 
   QAccessible::Role role() const override;
   QAccessible::State state() const override;
@@ -63,8 +76,10 @@ struct Light_Accessible final : QAccessibleWidget, QAccessibleValueInterface {
  private:
   Picture_Box* Picture() const;  // nullptr: it shows none, or its form is closed
   bool Has_Scale() const { return Picture() != nullptr && Picture()->scale.value; }
+  bool Has_Cells() const { return cells_.Count() > 0; }
 
   Light_Widget& light_;
+  mutable Accessible_Cells cells_;
 };
 
 Picture_Box* Light_Accessible::Picture() const {
@@ -73,6 +88,7 @@ Picture_Box* Light_Accessible::Picture() const {
 }
 
 QAccessible::Role Light_Accessible::role() const {
+  if (Has_Cells()) return QAccessible::Canvas;
   return Picture() == nullptr ? QAccessible::Graphic : Role_Of(*Picture());
 }
 
@@ -106,7 +122,7 @@ void* Light_Accessible::interface_cast(QAccessible::InterfaceType type) {
 QStringList Light_Accessible::actionNames() const {
   QStringList names = QAccessibleWidget::actionNames();
   if (Has_Scale()) return names << increaseAction() << decreaseAction();
-  if (role() != QAccessible::Graphic) names << pressAction();
+  if (Picture() != nullptr && Picture()->role != Role::Picture) names << pressAction();
   return names;
 }
 
