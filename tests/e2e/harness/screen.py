@@ -169,6 +169,11 @@ class Screen:
             left, top, width, height = _extents(item)
             self.hand("mousemove", left + width // 2, top + height // 2, "click", 1)
 
+    def shut_menu(self):
+        """A click on a grey item leaves its menu open."""
+        while self._find(lambda node: node.get_role() == Atspi.Role.POPUP_MENU, into_menus=True):
+            self.key("Escape")
+
     def _menu_item(self, caption, above):
         def test(node):  # a shortcut stands behind a tab
             return node.get_role() in _Item_roles and node.get_name().split("\t")[0] == caption
