@@ -3,6 +3,7 @@
 import mmap
 import os
 import pathlib
+import signal
 import statistics
 import struct
 import subprocess
@@ -141,10 +142,10 @@ def longest_answers_in_a_drag():
         for stopped in (False, True):
             hand = drag_beside(session, Stopped_s)
             if stopped:
-                session.machine.pause_jack()
+                session.machine.jack.send_signal(signal.SIGSTOP)
             longest.append(longest_answer_ms(session, Stopped_s))
             if stopped:
-                session.machine.resume_jack()
+                session.machine.jack.send_signal(signal.SIGCONT)
             hand.wait()
         return longest
 
