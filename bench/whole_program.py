@@ -125,7 +125,8 @@ def longest_answer_ms(session, seconds):
 
 def drag_beside(session, seconds):
     """A hand that drags a slider up and down in a process of its own."""
-    x, y = session.screen.middle("VCF cutoff frequency")
+    left, top, width, height = session.screen.place("VCF cutoff frequency")
+    x, y = left + width // 2, top + height // 2
     heights = list(range(0, 80, 2)) + list(range(80, 0, -2))
     steps = [step for height in heights * int(seconds * 100 / len(heights) + 1)
              for step in ("mousemove", str(x), str(y - height), "sleep", "0.01")]

@@ -18,12 +18,12 @@ class Evening:
     def go_to(self, name):
         """Tab by Tab, as a hand does who hears where it is."""
         self.screen.wait_for(name)
+        at = self.screen.focus()
         for _ in range(Tabs):
-            left = wait_until(self.screen.focus, "a focus")
-            if left == name:
+            if at == name:
                 return
             self.screen.key("Tab")
-            wait_until(lambda: self.screen.focus() not in (None, left), f"the focus behind {left}")
+            at = self.screen.focus(left=at)
         raise AssertionError(f"no Tab leads to {name}")
 
     def press(self, name):
@@ -32,8 +32,7 @@ class Evening:
 
     def answer(self, text, button, key):
         """button: the one that has the focus as soon as the box takes keys."""
-        assert self.screen.box().startswith(text), self.screen.box()
-        wait_until(lambda: self.screen.focus() == button, f"the focus on {button}")
+        wait_until(lambda: self.screen.box().startswith(text) and self.screen.focus() == button, text)
         self.screen.key(key)
 
     def set_up(self):
@@ -116,6 +115,7 @@ class Evening:
         self.screen.key("Return")
         # The dialog has written the file; the command behind it asks about it once more.
         self.answer("File exists: c:\\first.syx Overwrite?", "Yes", "Escape")
+        self.screen.focus(left="Yes")
         file = self.session.machine.home / "first.syx"
         assert file.read_bytes() == tone_file(self.record, self.patch)
 
@@ -131,6 +131,7 @@ class Evening:
         self.screen.click("LFO rate")
         self.screen.key("alt+F4")
         self.answer("Save actual TONE first?", "Yes", "Escape")
+        self.screen.focus(left="Yes")
         self.screen.key("alt+f", "x")
         self.answer("Save actual TONE first?", "Yes", "alt+n")
         assert self.session.wait_for_end() == 0

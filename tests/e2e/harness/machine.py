@@ -34,7 +34,9 @@ class Machine:
 
     def __init__(self, screen=(1280, 1024), jack=True):
         self.directory = pathlib.Path(tempfile.mkdtemp(prefix="melvor-e2e-"))
-        self.home = self._folder("home")
+        self.home, settings, runtime = (self.directory / name for name in ("home", "settings", "runtime"))
+        for folder in (self.home, settings, runtime):
+            folder.mkdir(mode=0o700)
         self.screen = screen
         self.server = f"melvor-{self.directory.name}"
         self.display_options = []
@@ -44,17 +46,12 @@ class Machine:
             "PATH": os.environ["PATH"],
             "LANG": "C.UTF-8",
             "HOME": str(self.home),
-            "XDG_CONFIG_HOME": str(self._folder("settings")),
-            "XDG_RUNTIME_DIR": str(self._folder("runtime", 0o700)),
+            "XDG_CONFIG_HOME": str(settings),
+            "XDG_RUNTIME_DIR": str(runtime),
             "JACK_DEFAULT_SERVER": self.server,
             "JACK_NO_START_SERVER": "1",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
-
-    def _folder(self, name, mode=0o755):
-        folder = self.directory / name
-        folder.mkdir(mode=mode)
-        return folder
 
     def __enter__(self):
         signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # whoever stops a scenario stops its machine too

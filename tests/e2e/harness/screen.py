@@ -62,11 +62,9 @@ class Screen:
 
     def _look(self, name):
         window, _, element = name.rpartition(" > ")
-        below = self._find(lambda node: node.get_role() == Atspi.Role.FRAME and node.get_name().startswith(window)
-                           and node.get_name() != "MELVOR") if window else None
-        if window and below is None:
-            return None
-        return self._find(lambda node: node.get_name() == element, below=below)
+        below = self._find(lambda node: node.get_role() == Atspi.Role.FRAME and
+                           node.get_name().startswith(window)) if window else self.application
+        return below and self._find(lambda node: node.get_name() == element, below=below)
 
     def element(self, name):
         return wait_until(lambda: self._look(name), f'the element "{name}"')
@@ -104,10 +102,12 @@ class Screen:
     def is_checked(self, name):
         return has_state(self.element(name), "CHECKED")
 
-    def focus(self):
-        """The name of the element that has the focus; None on its way. Its window and its chosen row claim it too."""
-        node = self._find(lambda node: has_state(node, "FOCUSED") and node.get_role() not in _Around_focus)
-        return node and node.get_name()
+    def focus(self, left=None):
+        """Waits until another element than left has the focus; returns its name."""
+        def look():  # the window around the element and the chosen row in it claim the focus too
+            node = self._find(lambda node: has_state(node, "FOCUSED") and node.get_role() not in _Around_focus)
+            return node and node.get_name() != left and node.get_name()
+        return wait_until(look, f"the focus behind {left}")
 
     def frame(self):
         """Left, top, width and height of the main window."""
@@ -126,10 +126,6 @@ class Screen:
             if word == "mousemove":
                 words[index + 1:index + 3] = [str(int(place) * self._scale) for place in words[index + 1:index + 3]]
         assert self._machine.run("xdotool", *words) is not None, f"xdotool {words}"
-
-    def middle(self, name):
-        left, top, width, height = self.place(name)
-        return left + width // 2, top + height // 2
 
     def click(self, name, button=1, at=None, times=1):
         """at: pixels from the element's top left corner; its middle if not given."""
