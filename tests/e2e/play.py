@@ -2,6 +2,7 @@
 or reordered; an order to end leaves no note sounding."""
 
 from harness.laws import check_slider, values_of
+from harness.machine import wait_until
 from harness.program import Session
 from harness.wire import All_notes_off, note, tone
 
@@ -32,7 +33,7 @@ def draw_sequence(screen):
     for step, row, button in ((4, 0, 1), (4, 0, 1), (1, 8, 3), (1, 8, 1)):
         press(step, row, button)
     words = "step 1: C strong; step 2: E strong; step 3: G soft, upper C strong"
-    assert screen.value("Note matrix").startswith(words), screen.value("Note matrix")
+    wait_until(lambda: screen.value("Note matrix").startswith(words), lambda: f"{words} in {screen.value('Note matrix')}")
     while screen.number("Tempo, sequences a minute") < 120:
         screen.click("Tempo, sequences a minute", at=(112, 7))
 
