@@ -106,7 +106,6 @@ class Evening:
         self.wire.expect(*(note(60 - row, 0) for row in range(13)))
         self.press("Stop sequencer")
         self.wire.take_to(All_notes_off)
-        self.wire.skip()
 
     def save(self):
         self.screen.key("alt+f", "t", "a")

@@ -33,7 +33,7 @@ def draw_sequence(screen):
     for step, row, button in ((4, 0, 1), (4, 0, 1), (1, 8, 3), (1, 8, 1)):
         press(step, row, button)
     words = "step 1: C strong; step 2: E strong; step 3: G soft, upper C strong"
-    wait_until(lambda: screen.value("Note matrix").startswith(words), lambda: f"{words} in {screen.value('Note matrix')}")
+    wait_until(lambda: screen.value("Note matrix").startswith(words), words)
     while screen.number("Tempo, sequences a minute") < 120:
         screen.click("Tempo, sequences a minute", at=(112, 7))
 

@@ -1,8 +1,6 @@
-"""What a drag must send, told from the pointer's path alone.
-
-How many moves reach a control depends on the machine; which values may follow one another does not: each move takes
-the element from its last value to the one that the pointer's place asks for.
-"""
+"""What a drag must send, told from the pointer's path alone. How many moves reach a control depends on the machine; which
+values may follow one another does not: each move takes the element from its last value to the one that the pointer's
+place asks for."""
 
 
 def check_drag(values, step, path):
