@@ -3,6 +3,7 @@
 import mmap
 import os
 import pathlib
+import signal
 import statistics
 import struct
 import subprocess
@@ -124,7 +125,8 @@ def longest_answer_ms(session, seconds):
 
 def drag_beside(session, seconds):
     """A hand that drags a slider up and down in a process of its own."""
-    x, y = session.screen.middle("VCF cutoff frequency")
+    left, top, width, height = session.screen.place("VCF cutoff frequency")
+    x, y = left + width // 2, top + height // 2
     heights = list(range(0, 80, 2)) + list(range(80, 0, -2))
     steps = [step for height in heights * int(seconds * 100 / len(heights) + 1)
              for step in ("mousemove", str(x), str(y - height), "sleep", "0.01")]
@@ -141,10 +143,10 @@ def longest_answers_in_a_drag():
         for stopped in (False, True):
             hand = drag_beside(session, Stopped_s)
             if stopped:
-                session.machine.pause_jack()
+                session.machine.jack.send_signal(signal.SIGSTOP)
             longest.append(longest_answer_ms(session, Stopped_s))
             if stopped:
-                session.machine.resume_jack()
+                session.machine.jack.send_signal(signal.SIGCONT)
             hand.wait()
         return longest
 

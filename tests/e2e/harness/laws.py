@@ -1,24 +1,6 @@
-"""What a drag must send, told from the pointer's path alone.
-
-How many moves reach a control depends on the machine; which values may follow one another does not: each move takes
-the element from its last value to the one that the pointer's place asks for.
-"""
-
-Limit = 127
-Panel_keys_top = 223  # of the little keyboard, on the panel
-
-
-def slider_top(bottom, value):
-    """Top of a slider's cap that stands at bottom with the value 0."""
-    return bottom - value * 80 // 127
-
-
-def drag_slider(screen, name, heights):
-    """Drags a slider of the panel by its cap's upper edge through heights, counted from there. Returns the places of
-    the pointer on the panel, which check_drag wants with slider_step."""
-    panel_top = screen.place("Play a chord")[1] - Panel_keys_top
-    _, cap_top = screen.drag(name, (8, 0), [(8, height) for height in heights])
-    return [cap_top - panel_top + height for height in (0, *heights)]
+"""What a drag must send, told from the pointer's path alone. How many moves reach a control depends on the machine; which
+values may follow one another does not: each move takes the element from its last value to the one that the pointer's
+place asks for."""
 
 
 def check_drag(values, step, path):
@@ -31,9 +13,16 @@ def check_drag(values, step, path):
     assert step(values[-1], path[-1]) == values[-1] or at == len(path) - 1, f"the last move is missing: {values}"
 
 
-def slider_step(bottom):
-    """place: height of the pointer on the panel."""
-    return lambda value, place: min(max(value - (place - slider_top(bottom, value)), 0), Limit)
+def slider_height(value):
+    """Of a slider's cap, in pixels above the place where it stands for 0."""
+    return value * 80 // 127
+
+
+def check_slider(values, path):
+    """values: the first one is that of the press, at the cap's upper edge; path: pixels below that place."""
+    def step(value, place):
+        return min(max(value - (place + slider_height(value) - slider_height(values[0])), 0), 127)
+    check_drag(values, step, [0, *path])
 
 
 def values_of(messages, head):

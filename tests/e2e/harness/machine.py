@@ -15,10 +15,10 @@ First_display = 1000
 Displays = 30000
 
 
-def wait_until(condition, what, patience_s=Patience_s):
+def wait_until(condition, what):
     """Returns the condition's value as soon as that is true; AssertionError with what, a text or what gives one, if
     it never comes."""
-    end = time.monotonic() + patience_s
+    end = time.monotonic() + Patience_s
     while True:
         value = condition()
         if value:
@@ -34,6 +34,9 @@ class Machine:
 
     def __init__(self, screen=(1280, 1024), jack=True):
         self.directory = pathlib.Path(tempfile.mkdtemp(prefix="melvor-e2e-"))
+        self.home, settings, runtime = (self.directory / name for name in ("home", "settings", "runtime"))
+        for folder in (self.home, settings, runtime):
+            folder.mkdir(mode=0o700)
         self.screen = screen
         self.server = f"melvor-{self.directory.name}"
         self.display_options = []
@@ -42,22 +45,13 @@ class Machine:
         self.environment = {
             "PATH": os.environ["PATH"],
             "LANG": "C.UTF-8",
-            "HOME": str(self._folder("home")),
-            "XDG_CONFIG_HOME": str(self._folder("settings")),
-            "XDG_RUNTIME_DIR": str(self._folder("runtime", 0o700)),
+            "HOME": str(self.home),
+            "XDG_CONFIG_HOME": str(settings),
+            "XDG_RUNTIME_DIR": str(runtime),
             "JACK_DEFAULT_SERVER": self.server,
             "JACK_NO_START_SERVER": "1",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
-
-    def _folder(self, name, mode=0o755):
-        folder = self.directory / name
-        folder.mkdir(mode=mode)
-        return folder
-
-    @property
-    def home(self):
-        return self.directory / "home"
 
     def __enter__(self):
         signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # whoever stops a scenario stops its machine too
@@ -118,19 +112,13 @@ class Machine:
                                          "dummy", "-r", "48000", "-p", "256"])
         wait_until(lambda: self.run("jack_lsp") is not None, "the JACK server")
 
-    def pause_jack(self):
-        self.jack.send_signal(signal.SIGSTOP)
 
-    def resume_jack(self):
-        self.jack.send_signal(signal.SIGCONT)
-
-
-def end(process, patience_s=10):
+def end(process):
     """Ends a program in order, or at once if it does not listen; returns its exit code."""
     if process.poll() is None:
         process.terminate()
         try:
-            process.wait(patience_s)
+            process.wait(Patience_s)
         except subprocess.TimeoutExpired:
             process.kill()
     return process.wait()

@@ -6,13 +6,11 @@ import pathlib
 import signal
 import sys
 
-from harness.machine import Machine, end, wait_until
+from harness.machine import Machine, wait_until
 from harness.screen import Screen
-from harness.wire import Wire
+from harness.wire import All_notes_off, Wire
 
 Panel = "VCF cutoff frequency"  # an element that is there as soon as the panel is
-
-Reminder = "Please don't forget to enable the MIDI System Exclusive (SysEx)"
 
 # A frame with room for every window beside the panel.
 Wide_frame = {
@@ -29,17 +27,13 @@ def _parser():
 
 
 class Session:
-    """A machine with the program on it and a JACK client on its wire.
-
-    settings: sections of the settings file, {section: {key: text}}, beside the choice of the JACK client and in
-    place of the wide frame's.
-    configured: whether the JACK client is chosen; without, the start asks and waits for no panel.
-    scale: the toolkit's pixel ratio.
-    """
+    """A machine with the program on it and a JACK client on its wire. settings: {section: {key: text}} in place of
+    the wide frame's. configured: whether the JACK client is chosen; without, the start asks. scale: pixels a point."""
 
     def __init__(self, name, settings=None, scale=1, configured=True, screen=(1280, 1024)):
         self.name = name
         self.machine = Machine(screen)
+        self.settings_file = pathlib.Path(self.machine.environment["XDG_CONFIG_HOME"]) / "melvor" / "MELVOR.INI"
         self._settings = settings or {}
         self._scale = scale
         self._configured = configured
@@ -47,7 +41,7 @@ class Session:
     def __enter__(self):
         self.machine.__enter__()
         try:
-            self.wire = Wire(self.machine, os.environ["JACK_CAPTURE"])
+            self.connect()
             self.write_settings()
             self.start(wait_for_panel=self._configured)
         except BaseException:
@@ -63,14 +57,11 @@ class Session:
 
     def _tell(self):
         """What is worth knowing of a failure."""
-        if hasattr(self, "screen"):
-            self.screenshot("failed")
+        folder = pathlib.Path(os.environ["SCREENSHOTS"])
+        folder.mkdir(parents=True, exist_ok=True)
+        self.machine.run("import", "-window", "root", str(folder / f"{self.name}.png"))
         if (self.machine.directory / "melvor.log").exists():
             print(self.machine.log("melvor"), file=sys.stderr)
-
-    @property
-    def settings_file(self):
-        return pathlib.Path(self.machine.environment["XDG_CONFIG_HOME"]) / "melvor" / "MELVOR.INI"
 
     def write_settings(self):
         sections = _parser()
@@ -87,6 +78,9 @@ class Session:
         sections.read(self.settings_file)
         return sections
 
+    def connect(self):
+        self.wire = Wire(self.machine, os.environ["JACK_CAPTURE"])
+
     def start(self, wait_for_panel=True):
         if self._scale != 1:
             self.machine.environment["QT_SCALE_FACTOR"] = str(self._scale)
@@ -98,21 +92,6 @@ class Session:
             wait_until(lambda: (self.machine.run(*active) or "").strip() == str(self.process.pid),
                        "the program's window in front")
 
-    def confirm_setup(self, choices=()):
-        """The setup window turns the menu's Receive on. choices: pairs of a list's name and the entry to choose."""
-        self.screen.menu("MIDI", "Setup...")
-        self.screen.wait_for("OK")
-        for name, entry in choices:
-            self.screen.choose(name, entry)
-        self.screen.key("Return")
-        assert self.screen.box().startswith(Reminder)
-        self.screen.answer("OK")
-
-    def screenshot(self, station):
-        folder = pathlib.Path(os.environ["SCREENSHOTS"])
-        folder.mkdir(parents=True, exist_ok=True)
-        self.screen.screenshot(folder / f"{self.name}-{station}.png")
-
     def wait_for_end(self):
         """The exit code, once the program has ended by itself."""
         wait_until(lambda: self.process.poll() is not None, "the end of the program")
@@ -123,5 +102,9 @@ class Session:
         self.process.send_signal(signal.SIGTERM)
         return self.wait_for_end()
 
-    def stop(self):
-        return end(self.process)
+    def end_at_once(self):
+        """The same in the middle of whatever it does: no box, the settings written, no note left sounding."""
+        assert "Synthesizer" not in self.settings()["MIDI"]
+        assert self.interrupt() == 0
+        assert self.settings()["MIDI"]["Synthesizer"] == "JX-8P"
+        wait_until(lambda: self.wire.all()[-1][1] == All_notes_off, "the last word")

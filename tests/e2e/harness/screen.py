@@ -11,7 +11,8 @@ from harness.machine import wait_until  # noqa: E402
 
 _Menu_roles = {Atspi.Role.MENU_BAR, Atspi.Role.MENU, Atspi.Role.POPUP_MENU}
 _Item_roles = {Atspi.Role.MENU, Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM}
-_Button_roles = {Atspi.Role.PUSH_BUTTON}
+_Around_focus = {Atspi.Role.FRAME, Atspi.Role.PANEL, Atspi.Role.LIST_ITEM}
+_Looks = 5  # at a tree that changes meanwhile
 
 
 class Screen:
@@ -50,22 +51,20 @@ class Screen:
                 yield from self._walk(child, into_menus)
 
     def _find(self, test, into_menus=False, below=None):
-        """The first shown element that passes; None if there is none, or if the tree changes meanwhile."""
-        try:
-            for node in self._walk(below or self.application, into_menus):
-                if test(node) and node.get_state_set().contains(Atspi.StateType.SHOWING):
-                    return node
-        except GLib.Error:
-            pass
+        """The first shown element that passes, or None. An element that goes meanwhile is no answer."""
+        for _ in range(_Looks):
+            try:
+                return next((node for node in self._walk(below or self.application, into_menus)
+                             if test(node) and has_state(node, "SHOWING")), None)
+            except GLib.Error:
+                continue
         return None
 
     def _look(self, name):
         window, _, element = name.rpartition(" > ")
-        below = self._find(lambda node: node.get_role() == Atspi.Role.FRAME and node.get_name().startswith(window)
-                           and node.get_name() != "MELVOR") if window else None
-        if window and below is None:
-            return None
-        return self._find(lambda node: node.get_name() == element, below=below)
+        below = self._find(lambda node: node.get_role() == Atspi.Role.FRAME and
+                           node.get_name().startswith(window)) if window else self.application
+        return below and self._find(lambda node: node.get_name() == element, below=below)
 
     def element(self, name):
         return wait_until(lambda: self._look(name), f'the element "{name}"')
@@ -98,10 +97,17 @@ class Screen:
     def is_enabled(self, name):
         """Of an element, or a menu of the bar."""
         node = wait_until(lambda: self._find(lambda node: node.get_name() == name, into_menus=True), f'"{name}"')
-        return node.get_state_set().contains(Atspi.StateType.ENABLED)
+        return has_state(node, "ENABLED")
 
     def is_checked(self, name):
-        return self.element(name).get_state_set().contains(Atspi.StateType.CHECKED)
+        return has_state(self.element(name), "CHECKED")
+
+    def focus(self, left=None):
+        """Waits until another element than left has the focus; returns its name."""
+        def look():  # the window around the element and the chosen row in it claim the focus too
+            node = self._find(lambda node: has_state(node, "FOCUSED") and node.get_role() not in _Around_focus)
+            return node and node.get_name() != left and node.get_name()
+        return wait_until(look, f"the focus behind {left}")
 
     def frame(self):
         """Left, top, width and height of the main window."""
@@ -121,13 +127,12 @@ class Screen:
                 words[index + 1:index + 3] = [str(int(place) * self._scale) for place in words[index + 1:index + 3]]
         assert self._machine.run("xdotool", *words) is not None, f"xdotool {words}"
 
-    def middle(self, name):
-        left, top, width, height = self.place(name)
-        return left + width // 2, top + height // 2
-
     def click(self, name, button=1, at=None, times=1):
         """at: pixels from the element's top left corner; its middle if not given."""
-        left, top, width, height = self.place(name)
+        self._click(self.element(name), button, at, times)
+
+    def _click(self, node, button=1, at=None, times=1):
+        left, top, width, height = _extents(node)
         x, y = at or (width // 2, height // 2)
         self.hand("mousemove", left + x, top + y, "click", "--repeat", times, "--delay", 60, button)
 
@@ -135,8 +140,7 @@ class Screen:
         """Clicks, or double clicks, the row with that text of a list; it must not be scrolled out of sight."""
         row = wait_until(lambda: self._find(lambda node: node.get_name().strip() == text, below=self.element(name)),
                          f'the row "{text}"')
-        left, top, width, height = _extents(row)
-        self.hand("mousemove", left + width // 2, top + height // 2, "click", "--repeat", times, "--delay", 60, 1)
+        self._click(row, times=times)
 
     def drag(self, name, grip, path):
         """Presses at grip (pixels from the top left corner) and moves through path, a list of such places, all
@@ -182,14 +186,12 @@ class Screen:
     # --- message boxes
 
     def _box(self):
-        return self._find(lambda node: node.get_role() == Atspi.Role.ALERT)
+        return self._find(lambda node: node.get_role() == Atspi.Role.ALERT and node.get_name())
 
     def _box_text(self):
         box = self._box()
-        if box is None:
-            return None
-        labels = [node.get_name() for node in self._walk(box) if node.get_role() == Atspi.Role.LABEL]
-        return next((text for text in labels if text), None)
+        label = box and self._find(lambda node: node.get_role() == Atspi.Role.LABEL and node.get_name(), below=box)
+        return label and label.get_name()
 
     def has_box(self):
         return self._box() is not None
@@ -200,16 +202,14 @@ class Screen:
 
     def answer(self, button):
         """Clicks a button of the open message box; returns when the box has gone, or another stands there."""
-        def is_button(node):
-            return node.get_role() in _Button_roles and node.get_name() == button
         text = self.box()
-        left, top, width, height = _extents(wait_until(lambda: self._find(is_button, below=self._box()),
-                                                       f'the button "{button}"'))
-        self.hand("mousemove", left + width // 2, top + height // 2, "click", 1)
+        self._click(wait_until(lambda: self._find(lambda node: node.get_name() == button, below=self._box()),
+                               f'the button "{button}"'))
         wait_until(lambda: self._box_text() != text, "the end of the box")
 
-    def screenshot(self, file):
-        assert self._machine.run("import", "-window", "root", str(file)) is not None, f"screenshot {file}"
+
+def has_state(node, state):
+    return node.get_state_set().contains(getattr(Atspi.StateType, state))
 
 
 def _extents(node):

@@ -5,6 +5,8 @@ import subprocess
 from harness.machine import wait_until
 
 All_notes_off = bytes.fromhex("B0 7B 00")
+Told = 30  # messages of a failure
+Fresh_patch = (0, 0, 0, 0, 0, 0, 64)
 
 
 class Wire:
@@ -12,9 +14,8 @@ class Wire:
 
     def __init__(self, machine, capture_program):
         self.file = machine.directory / "wire.txt"
-        self._process = machine.start(
-            "wire", [capture_program, str(self.file), "synth"],
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self._process = machine.start("wire", [capture_program, str(self.file), "synth"],
+                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         if self._process.stdout.readline() != b"ready\n":
             raise AssertionError(f"the JACK client did not start: {machine.log('wire')}")
         self._read = 0
@@ -33,28 +34,21 @@ class Wire:
 
     def expect(self, *messages):
         """The next messages, byte for byte."""
-        try:
-            wait_until(lambda: len(self._unread()) >= len(messages), "messages")
-        except AssertionError:
-            pass  # the comparison tells what is missing
-        got = self._unread()[: len(messages)]
-        assert got == list(messages), f"on the wire:\n{as_text(got)}\nwanted:\n{as_text(messages)}"
+        wait_until(lambda: self._unread()[: len(messages)] == list(messages),
+                   lambda: f"\n{as_text(messages)}\nbut this:\n{as_text(self._unread())}")
         self._read += len(messages)
 
     def take_to(self, last):
         """All messages before the next one that is equal to last; that one is passed over too."""
-        try:
-            wait_until(lambda: last in self._unread(), "")
-        except AssertionError:
-            raise AssertionError(f"wanted {last.hex(' ')} after:\n{as_text(self._unread())}") from None
+        wait_until(lambda: last in self._unread(), lambda: f"{last.hex(' ')} after:\n{as_text(self._unread())}")
         got = self._unread()
         got = got[: got.index(last)]
         self._read += len(got) + 1
         return got
 
-    def wait_for(self, count, patience_s=30):
+    def wait_for(self, count):
         """Waits until so many messages are unread."""
-        wait_until(lambda: len(self._unread()) >= count, f"{count} messages", patience_s)
+        wait_until(lambda: len(self._unread()) >= count, f"{count} messages")
 
     def send(self, message):
         self._process.stdin.write(message.hex(" ").encode() + b"\n")
@@ -62,7 +56,7 @@ class Wire:
 
 
 def as_text(messages):
-    return "\n".join(message.hex(" ") for message in messages) or "(nothing)"
+    return "\n".join(message.hex(" ") for message in messages[:Told]) or "(nothing)"
 
 
 def tone(index, value):
@@ -79,18 +73,24 @@ def note(number, velocity):
     return bytes([0x90, number, velocity])
 
 
-def dump(record, patch_record=(0, 0, 0, 0, 0, 0, 64)):
-    """A whole tone of 59 bytes with its patch, as it goes to the instrument."""
-    pairs = bytes(byte for pair in enumerate(patch_record) for byte in pair)
-    return (bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + bytes.fromhex("24 07 F0 41 36 00 21 30 01") +
-            pairs + b"\xF7")
+def numbered(values):
+    """Values, each behind its index."""
+    return bytes(byte for pair in enumerate(values) for byte in pair)
 
 
-def tone_file(record, patch_record=(0, 0, 0, 0, 0, 0, 64)):
-    """The same as a file of 89 bytes."""
-    pairs = bytes(byte for pair in enumerate(patch_record) for byte in pair)
-    return (bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + bytes.fromhex("F7 F0 41 36 00 21 30 01") +
-            pairs + b"\xF7")
+def tone_dump(record):
+    """The 67 bytes that the instrument transmits."""
+    return bytes.fromhex("F0 41 35 00 21 20 01") + bytes(record) + b"\xF7"
+
+
+def tone_file(record, patch_record=Fresh_patch):
+    """A tone of 59 bytes with its patch, as a file of 89 bytes."""
+    return tone_dump(record) + bytes.fromhex("F0 41 36 00 21 30 01") + numbered(patch_record) + b"\xF7"
+
+
+def dump(record, patch_record=Fresh_patch):
+    """The same as it goes to the instrument, with 24 07 where the file's tone ends."""
+    return tone_file(record, patch_record).replace(b"\xF7", b"\x24\x07", 1)
 
 
 def empty_record(name=""):

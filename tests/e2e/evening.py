@@ -1,0 +1,163 @@
+"""A musician's evening, nearly all by keys: a first start, a sound made, named, varied, undone and saved, the windows
+tried, help looked up; and all of it back the next day."""
+
+from harness.machine import wait_until
+from harness.program import Session
+from harness.wire import All_notes_off, Fresh_patch, dump, empty_record, note, numbered, patch, tone, tone_file
+
+Tabs = 60  # more than any window has
+Cutoff = "VCF cutoff frequency"
+
+
+class Evening:
+    def __init__(self, session):
+        self.session, self.screen, self.wire = session, session.screen, session.wire
+        self.record = empty_record()
+        self.patch = [*Fresh_patch]
+
+    def go_to(self, name):
+        """Tab by Tab, as a hand does who hears where it is."""
+        self.screen.wait_for(name)
+        at = self.screen.focus()
+        for _ in range(Tabs):
+            if at == name:
+                return
+            self.screen.key("Tab")
+            at = self.screen.focus(left=at)
+        raise AssertionError(f"no Tab leads to {name}")
+
+    def press(self, name):
+        self.go_to(name)
+        self.screen.key("space")
+
+    def answer(self, text, button, key):
+        """button: the one that has the focus as soon as the box takes keys."""
+        wait_until(lambda: self.screen.box().startswith(text) and self.screen.focus() == button, text)
+        self.screen.key(key)
+
+    def set_up(self):
+        for kind in ("output", "input"):
+            self.answer(f"MIDI {kind} device not configured - starting MIDI setup.", "OK", "Return")
+        for kind, device in (("output", "synth:in"), ("input", "synth:out")):
+            self.go_to(f"MIDI {kind} device")
+            self.screen.type(device)
+            wait_until(lambda: self.screen.value(f"MIDI {kind} device") == device, device)
+        self.screen.key("Return")
+        self.answer("Please don't forget to enable the MIDI System Exclusive (SysEx)", "OK", "Return")
+
+    def edit(self):
+        self.go_to("DCO 1 tune")
+        self.screen.key("Right")
+        self.wire.expect(tone(13, 72))
+        self.go_to(Cutoff)
+        self.screen.key("Home", "Next")
+        self.wire.take_to(tone(34, 127))  # a knob on the way sends itself again at Tab
+        self.wire.expect(tone(34, 111))
+        self.screen.click("DCO 1 range")
+        self.screen.key("Up")
+        self.wire.expect(tone(11, 32))
+        self.record[34], self.record[11], self.record[13] = 111, 32, 72
+
+    def name(self):
+        """28 bytes that end in 0F, and nothing from the panel, which is locked meanwhile."""
+        self.screen.click("Tone name")
+        self.screen.wait_for("Name of the tone")
+        self.screen.click(Cutoff)
+        self.screen.type("evening pad 12")
+        self.screen.key("Return")
+        self.screen.wait_for_end_of("Name of the tone")
+        self.record[:11] = b"EVENING PA "
+        self.wire.expect(tone(0, 0)[:7] + numbered(self.record[:10]) + b"\x0F")
+        assert self.screen.text("Tone name") == "EVENING PA"
+
+    def patch_window(self):
+        self.screen.key("alt+t", "p")
+        self.go_to("Portamento")
+        self.screen.key("Up")
+        self.wire.take_to(patch(2, 64))
+        self.screen.click("After touch volume")
+        self.wire.expect(patch(4, 4))
+        self.patch[2], self.patch[4] = 64, 4
+        self.screen.key("Escape")
+        self.screen.wait_for_end_of("After touch volume")
+
+    def random_and_undo(self):
+        self.screen.key("ctrl+r")
+        wait_until(lambda: self.screen.text("Tone name") == "RANDOM", "a random tone")
+        self.wire.wait_for(1)
+        self.wire.skip()
+        self.screen.key("alt+e", "u")
+        self.wire.expect(dump(self.record, self.patch))
+
+    def oscillator(self):
+        self.screen.key("alt+m", "i")
+        self.press("Square")
+        self.press("Start oscillator")
+        self.wire.take_to(tone(14, 32))
+        self.press("Stop oscillator")
+        self.screen.key("ctrl+c")
+        self.wire.take_to(All_notes_off)
+        self.wire.expect(All_notes_off)
+
+    def sequencer(self):
+        self.screen.key("ctrl+u")
+        self.wire.expect(All_notes_off)
+        self.press("Start sequencer")
+        self.wire.expect(*(note(60 - row, 0) for row in range(13)))
+        self.press("Stop sequencer")
+        self.wire.take_to(All_notes_off)
+
+    def save(self):
+        self.screen.key("alt+f", "t", "a")
+        self.go_to("File name")
+        self.screen.type("first")
+        self.screen.key("Return")
+        # The dialog has written the file; the command behind it asks about it once more.
+        self.answer("File exists: c:\\first.syx Overwrite?", "Yes", "Escape")
+        self.screen.focus(left="Yes")
+        file = self.session.machine.home / "first.syx"
+        assert file.read_bytes() == tone_file(self.record, self.patch)
+
+    def help(self):
+        for keys, what in ((["F1"], "Topics"), (["alt+h", "h"], "Examples of the control elements"),
+                           (["alt+h", "a"], "Informations")):
+            self.screen.key(*keys)
+            self.screen.wait_for(what)
+            self.screen.key("Escape")
+            self.screen.wait_for_end_of(what)
+
+    def close(self):
+        self.screen.click("LFO rate")
+        self.screen.key("alt+F4")
+        self.answer("Save actual TONE first?", "Yes", "Escape")
+        self.screen.focus(left="Yes")
+        self.screen.key("alt+f", "x")
+        self.answer("Save actual TONE first?", "Yes", "alt+n")
+        assert self.session.wait_for_end() == 0
+
+
+def next_day(session, evening):
+    kept = session.settings()
+    assert (kept["MIDI"]["Output"], kept["MIDI"]["Input"]) == ("synth:in", "synth:out"), kept["MIDI"]
+    session.start()
+    session.wire.skip()
+    session.screen.menu("File", "Tone", f"1 {kept['Recent Files']['Tone1'].upper()}")
+    session.wire.expect(dump(evening.record), dump(evening.record, evening.patch))
+    assert session.interrupt() == 0
+
+
+def main():
+    with Session("evening", configured=False) as session:
+        before = session.settings_file.read_text()
+        session.screen.box()
+        assert session.interrupt() == 0
+        assert session.settings_file.read_text() == before  # it was not all read yet
+        session.start(wait_for_panel=False)
+        evening = Evening(session)
+        for act in (evening.set_up, evening.edit, evening.name, evening.patch_window, evening.random_and_undo,
+                    evening.oscillator, evening.sequencer, evening.save, evening.help, evening.close):
+            act()
+        next_day(session, evening)
+
+
+main()
