@@ -9,7 +9,7 @@ from harness.wire import All_notes_off, note, patch, tone
 
 Cutoff = "VCF cutoff frequency"
 Controls = {"slider", "dial", "push button", "radio button", "check box", "combo box", "list", "scroll bar", "text",
-            "image"}
+            "image", "canvas"}
 Panel = {"slider": 41, "dial": 6, "push button": 3, "text": 1, "image": 3}
 # Menu path, name of the window, what it holds.
 Dialogs = [
@@ -23,7 +23,7 @@ Windows = [
     (("MIDI", "Oscillator..."), "Oscillator",
      {"image": 1, "scroll bar": 3, "combo box": 1, "check box": 1, "radio button": 10, "push button": 2}),
     (("MIDI", "Sequencer..."), "Sequencer",
-     {"image": 9, "push button": 16, "radio button": 6, "combo box": 2, "scroll bar": 1}),
+     {"image": 8, "canvas": 1, "push button": 16, "radio button": 6, "combo box": 2, "scroll bar": 1}),
 ]
 
 
@@ -32,7 +32,7 @@ def shown(node):
         child = node.get_child_at_index(index)
         if has_state(child, "SHOWING"):
             yield child
-            if child.get_role_name() not in ("combo box", "list", "text"):  # what they hold is the toolkit's
+            if child.get_role_name() not in ("combo box", "list", "text", "canvas"):
                 yield from shown(child)
 
 
@@ -43,28 +43,18 @@ def check_window(screen, title, wanted):
     assert Counter(node.get_role_name() for node in controls) == wanted, f"{title}: {sorted(names)}"
 
 
-def act(screen, name, action):
-    node = screen.element(name)
-    names = [Atspi.Action.get_action_name(node, index) for index in range(Atspi.Action.get_n_actions(node))]
-    assert Atspi.Action.do_action(node, names.index(action))
-
-
-def turn(screen, name, number):
-    assert Atspi.Value.set_current_value(screen.element(name), number)
-
-
 def told(screen, name, number, words):
     wait_until(lambda: (screen.number(name), screen.value(name)) == (number, words), f"{name}: {words}")
 
 
 def move_the_sound(screen, wire):
-    turn(screen, Cutoff, 50)
+    screen.turn(Cutoff, 50)
     wire.expect(*(tone(34, value) for value in (16, 32, 48, 64, 65)))
     told(screen, Cutoff, 50, "50")
-    act(screen, "DCO 1 range", "Increase")
+    screen.act("DCO 1 range", "Increase")
     wire.expect(tone(11, 32))
     told(screen, "DCO 1 range", 1, "8 feet")
-    turn(screen, "DCO 1 tune", -8)
+    screen.turn("DCO 1 tune", -8)
     wire.take_to(tone(13, 20))
     told(screen, "DCO 1 tune", -8, "minus 8 semitones")
 
@@ -75,7 +65,7 @@ def hear_a_key(screen, wire):
     listener = Atspi.EventListener.new(lambda event: heard.append(event.source.get_name()))
     assert listener.register("object:property-change:accessible-value")
     screen.element(Cutoff).grab_focus()
-    turn(screen, Cutoff, 49)
+    screen.turn(Cutoff, 49)
     wire.take_to(tone(34, 64))
     screen.key("Up")
     wire.expect(tone(34, 65))
@@ -99,13 +89,16 @@ def main():
             screen.menu(*path)
             check_window(screen, title, wanted)
         wire.skip()
-        act(screen, "After touch volume", "Press")
+        screen.act("After touch volume", "Press")
         wire.expect(patch(4, 4))
         wait_until(lambda: screen.is_checked("After touch volume"), "the light")
-        act(screen, "Key E", "Press")
+        screen.act("Key E", "Press")
         wire.expect(note(52, 127))
-        act(screen, "Sequencer > Stop sequencer", "Press")
+        screen.act("Sequencer > Stop sequencer", "Press")
         wire.expect(All_notes_off)
+        screen.act("Note matrix > E, step 3", "Soft")
+        wait_until(lambda: screen.value("Note matrix") == "step 3: E soft", "the note")
+        assert screen.is_checked("Note matrix > E, step 3")
         session.end_at_once()
 
 

@@ -10,6 +10,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 from harness.machine import wait_until  # noqa: E402
 
 _Menu_roles = {Atspi.Role.MENU_BAR, Atspi.Role.MENU, Atspi.Role.POPUP_MENU}
+_Window_roles = {Atspi.Role.FRAME, Atspi.Role.CANVAS}
 _Item_roles = {Atspi.Role.MENU, Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM}
 _Around_focus = {Atspi.Role.FRAME, Atspi.Role.PANEL, Atspi.Role.LIST_ITEM}
 _Looks = 5  # at a tree that changes meanwhile
@@ -17,7 +18,8 @@ _Looks = 5  # at a tree that changes meanwhile
 
 class Screen:
     """Elements are found by their spoken names; "Sequencer > Start sequencer" is one of the child window whose caption
-    begins so. Places are the program's own pixels, of which the screen has scale times scale each."""
+    begins so, "Note matrix > C, step 1" a cell of a canvas. Places are the program's own pixels, of which the screen
+    has scale times scale each."""
 
     def __init__(self, machine, process_id, scale=1):
         os.environ.update(machine.environment)  # the accessibility bus is found by the environment
@@ -47,7 +49,8 @@ class Screen:
             if child is None:
                 continue
             yield child
-            if into_menus or child.get_role() not in _Menu_roles:
+            role = child.get_role()
+            if role != Atspi.Role.CANVAS and (into_menus or role not in _Menu_roles):
                 yield from self._walk(child, into_menus)
 
     def _find(self, test, into_menus=False, below=None):
@@ -62,7 +65,7 @@ class Screen:
 
     def _look(self, name):
         window, _, element = name.rpartition(" > ")
-        below = self._find(lambda node: node.get_role() == Atspi.Role.FRAME and
+        below = self._find(lambda node: node.get_role() in _Window_roles and
                            node.get_name().startswith(window)) if window else self.application
         return below and self._find(lambda node: node.get_name() == element, below=below)
 
@@ -170,8 +173,7 @@ class Screen:
         item = None
         for caption in path:
             item = self._menu_item(caption, item)
-            left, top, width, height = _extents(item)
-            self.hand("mousemove", left + width // 2, top + height // 2, "click", 1)
+            self._click(item)
 
     def shut_menu(self):
         """A click on a grey item leaves its menu open."""
@@ -182,6 +184,16 @@ class Screen:
         def test(node):  # a shortcut stands behind a tab
             return node.get_role() in _Item_roles and node.get_name().split("\t")[0] == caption
         return wait_until(lambda: self._find(test, into_menus=True, below=above), f'the menu item "{caption}"')
+
+    # --- what assistive programs do
+
+    def act(self, name, action):
+        node = self.element(name)
+        names = [Atspi.Action.get_action_name(node, index) for index in range(Atspi.Action.get_n_actions(node))]
+        assert Atspi.Action.do_action(node, names.index(action))
+
+    def turn(self, name, number):
+        assert Atspi.Value.set_current_value(self.element(name), number)
 
     # --- message boxes
 
@@ -202,10 +214,10 @@ class Screen:
 
     def answer(self, button):
         """Clicks a button of the open message box; returns when the box has gone, or another stands there."""
-        text = self.box()
-        self._click(wait_until(lambda: self._find(lambda node: node.get_name() == button, below=self._box()),
+        box = wait_until(self._box, "a message box")
+        self._click(wait_until(lambda: self._find(lambda node: node.get_name() == button, below=box),
                                f'the button "{button}"'))
-        wait_until(lambda: self._box_text() != text, "the end of the box")
+        wait_until(lambda: self._box() != box, "the end of the box")
 
 
 def has_state(node, state):
