@@ -11,6 +11,7 @@
 #include "platform/desktop.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_commands.h"
+#include "sequencer/seq_transport.h"
 #include "windows/editor_window.h"
 #include "windows/frame_window.h"
 #include "windows/patch_window.h"
@@ -19,9 +20,13 @@
 
 namespace {
 
+// The closing may yet be refused, so the start buttons rise as they do after any stop.
 void Silence() {
-  if (Seq_Running == Flag_On) MELVOR.Seq_Tmr.enabled = false;
-  Seq_Running = Flag_Off;
+  if (Seq_Running == Flag_On) {
+    MELVOR.Seq_Tmr.enabled = false;
+    Seq_Running = Flag_Off;
+    Seq_Start_Faces_Up();
+  }
   MIDI_Reset();
 }
 

@@ -77,12 +77,15 @@ TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
 
 TEST_F(Frame, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
   ASSERT_TRUE(Start());
+  const Picture raised = Editor.ED_Seq_Start.picture;
   Play();
+  EXPECT_NE(Editor.ED_Seq_Start.picture(), raised);
   service.Take_Hex();
   desktop.Expect_Box(Answer::Cancel, "Save actual SEQUENCE first?");
   EXPECT_FALSE(Unload(MELVOR));
   desktop.Advance_ms(1000);
   EXPECT_EQ(service.Take_Hex(), std::vector<std::string>{"B0 7B 00"});
+  EXPECT_EQ(Editor.ED_Seq_Start.picture(), raised);
 }
 
 TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {
