@@ -6,7 +6,7 @@
 #include "platform/convert.h"
 #include "platform/runtime_error.h"
 #include "sequencer/model.h"
-#include "sequencer/seq_window.h"
+#include "sequencer/seq_display.h"
 #include "windows/frame_window.h"
 #include "windows/state.h"
 
