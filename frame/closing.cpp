@@ -4,9 +4,11 @@
 
 #include "core/records.h"
 #include "core/settings.h"
+#include "core/tone_commands.h"
 #include "frame/menus.h"
 #include "frame/start_up.h"
 #include "midi/output.h"
+#include "midi/state.h"
 #include "panel/segments.h"
 #include "platform/desktop.h"
 #include "sequencer/model.h"
@@ -51,6 +53,7 @@ void Frame_Query(bool& cancel) {
 }
 
 void Frame_Unload() {
+  if (Receive_On != 0) Tone_Receive_Toggle();  // the wait has Autosend at 0, which is nobody's setting
   Pics_Release_Font();
   MELVOR.Timer_Display.enabled = false;
   Editor.Timer1.enabled = false;

@@ -1,5 +1,6 @@
 // The frame: how the program starts and closes.
 #include "core/sysex.h"
+#include "core/tone_commands.h"
 #include "frame/whole_program.h"
 #include "windows/sequencer_window.h"
 
@@ -86,6 +87,15 @@ TEST_F(Frame, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
   desktop.Advance_ms(1000);
   EXPECT_EQ(service.Take_Hex(), std::vector<std::string>{"B0 7B 00"});
   EXPECT_EQ(Editor.ED_Seq_Start.picture(), raised);
+}
+
+TEST_F(Frame, Closing_While_It_Waits_For_A_Tone_Keeps_Autosend_In_The_Settings) {
+  ASSERT_TRUE(Start());
+  Tone_Receive();
+  EXPECT_EQ(Receive_On - Autosend, 1);
+  Unload(MELVOR);
+  EXPECT_NE(root.Get("MELVOR.INI").find("Autosend=1"), std::string::npos);
+  EXPECT_FALSE(service.In_Is_Open());
 }
 
 TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {
