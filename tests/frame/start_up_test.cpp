@@ -31,7 +31,7 @@ TEST_F(Frame, Only_Two_Densities_Are_Known) {
 TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Load) {
   desktop.Expect_Box(Answer::Ok, "MIDI output device not configured - starting MIDI setup.");
   desktop.Expect_Box(Answer::Ok, "MIDI input device (Gone) not available - starting MIDI setup.");
-  ASSERT_TRUE(Start("[MIDI]\nInput=Gone\nChannel=5\n"));
+  ASSERT_TRUE(Start("[MIDI]\nInput=Gone\nChannel=-5\n"));
   EXPECT_TRUE(MIDI_Setup.visible());
   EXPECT_EQ(SysEx_IPR_Tone, "F0 41 36 4 21 20 01 ") << "the load went on behind the window";
 }
