@@ -95,7 +95,6 @@ TEST_F(Frame, Closing_While_It_Waits_For_A_Tone_Keeps_Autosend_In_The_Settings) 
   EXPECT_EQ(Receive_On - Autosend, 1);
   Unload(MELVOR);
   EXPECT_NE(root.Get("MELVOR.INI").find("Autosend=1"), std::string::npos);
-  EXPECT_FALSE(service.In_Is_Open());
 }
 
 TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {

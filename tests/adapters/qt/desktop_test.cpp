@@ -11,11 +11,7 @@
 namespace {
 
 TEST(Start, Where_The_Toolkit_Gives_Up_The_Program_Ends_With_A_Word_Of_Its_Own) {
-  const auto start = [] {
-    Prepare_Toolkit();
-    qFatal("no platform");
-  };
-  EXPECT_EXIT(start(), testing::ExitedWithCode(1), "MELVOR: no display");
+  EXPECT_EXIT((Prepare_Toolkit(), qFatal("no platform")), testing::ExitedWithCode(1), "MELVOR: no display");
 }
 
 TEST_F(Desk, Input_Waits_In_Order_While_A_Handler_Lets_Only_Timers_Run) {
