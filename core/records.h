@@ -59,6 +59,6 @@ int Semitone_Value(int semitones);
 // A fine tune byte as -50 to 50; 0 outside [0, 127].
 int Bipolar_50(int byte);
 
-// A slider's byte as the display shows it, 0 to 99, and as pixels above its base line, 0 to 80.
+// A slider's byte, [0, 127], as the display shows it, 0 to 99, and as pixels above its base line, 0 to 80.
 int Shown_99(int byte);
 int Slider_Offset_px(int byte);

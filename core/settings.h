@@ -10,8 +10,8 @@ extern std::uint8_t Soundcheck;           // what it plays for a tone: 0 a note,
 extern std::uint8_t Soundcheck_Note;      // [24, 72]
 extern std::uint8_t Soundcheck_Velocity;  // [0, 127]
 
-// Directories of the file dialog, program paths: from the settings in lower case with a "\" behind them, from the dialog
-// as its list has them.
+// Directories of the file dialog, program paths: from the settings in lower case with a "\" behind them, from
+// the dialog as its list has them.
 extern std::string Dir_Tones;
 extern std::string Dir_Sequences;
 extern std::string Dir_Oscillators;
@@ -20,7 +20,7 @@ extern std::string Dir_Oscillators;
 // default.
 void Settings_Load();
 
-// Writes everything, in one replacement of the file. A failure is ignored.
+// Writes everything, in one replacement of the file. A failure is told on the standard error output alone.
 void Settings_Save();
 
 // Version number of the platform, as 4.10; only compared with 3.95, which stands between two default frame

@@ -43,7 +43,7 @@ constexpr std::array Head_Rows{
 // Scratch text of single messages; a dump has its own, so that neither disturbs the other.
 std::string single_text;
 
-std::string JX8P_Head(std::string_view form, std::string_view address) {
+std::string Head(std::string_view form, std::string_view address) {
   return std::string(form) + SysEx_Unit() + std::string(address);
 }
 
@@ -67,7 +67,7 @@ std::string SysEx_Unit() { return Hex(MIDI_Channel - 1); }
 
 void SysEx_Heads_Build() {
   for (const Head_Row& row : Head_Rows) {
-    if (row.synthesizer == Synthesizer) *row.head = JX8P_Head(row.form, row.address);
+    if (row.synthesizer == Synthesizer) *row.head = Head(row.form, row.address);
   }
 }
 
@@ -115,12 +115,12 @@ void Tone_Param_Send(int index) {
 
 void Patch_Param_Send(int index) {
   const int value = Patch_Rec[index];
-  if (Sends_Changes()) SysEx_Param_Send(JX8P_Head(IPR, " 21 30 01 "), index, value);
+  if (Sends_Changes()) SysEx_Param_Send(Head(IPR, " 21 30 01 "), index, value);
 }
 
 void Tone_Name_Send() {
   if (!Sends_Changes()) return;
-  single_text = JX8P_Head(IPR, " 21 20 01 ");
+  single_text = Head(IPR, " 21 20 01 ");
   for (int index = 0; index < Tone_Name_Length; ++index) {
     Append_Value(single_text, index);
     Append_Value(single_text, Tone[index]);
@@ -130,10 +130,10 @@ void Tone_Name_Send() {
 }
 
 void SysEx_Image_Build() {
-  std::string text = JX8P_Head(APR, " 21 20 01 ");
+  std::string text = Head(APR, " 21 20 01 ");
   for (const std::uint8_t byte : Tone.bytes) Append_Value(text, byte);
   text += "F7 ";
-  text += JX8P_Head(IPR, " 21 30 01 ");
+  text += Head(IPR, " 21 30 01 ");
   Append_Patch(text);
   text += "F7";
   std::ranges::copy(Hex_To_Bytes(text), SysEx_Image.begin());

@@ -39,7 +39,8 @@ void Patch_Param_Send(int index);  // index in [0, 8], else Runtime_Error 9
 // The name as ten parameters in one message of 28 bytes, under the same condition.
 void Tone_Name_Send();
 
-// Sends head, parameter number, value and F7 as one message, whatever the switches say.
+// Sends head, parameter number, value and F7 as one message, whatever the switches say. parameter and value
+// in [0, 255].
 void SysEx_Param_Send(std::string_view head, int parameter, int value);
 
 // The image of a tone file: tone dump and patch message with model byte 0x21, whatever the instrument.

@@ -51,7 +51,6 @@ struct Reader {
 struct Scan {
   Reader file;
   std::string head;  // grows behind a foreign message, and then matches nothing any more
-  bool tone_taken = false;
   bool tone_at_start = false;
 };
 
@@ -64,20 +63,13 @@ void Take_Head(Scan& scan) {
   scan.file.Step(Head_Size);
 }
 
-// Asks about a further tone. False: the scan ends.
-bool Take_Further_Tone(Scan& scan, Load_Mode mode) {
-  if (mode == Load_Mode::Open) {
-    const Answer answer =
-        Message_Box("File contains another TONE. Save old TONE first?", Box_Yes_No + Box_Question);
-    if (answer == Answer::Yes) {
-      Tone_SaveAs();
-      if (Tone_Saved == Flag_True) scan.tone_taken = false;
-    }
-    return true;
-  }
-  const Answer answer = Message_Box("File contains another TONE. Load it?", Box_Yes_No + Box_Question);
-  if (answer != Answer::Yes) return false;
-  if (Tone_Saved == Flag_True) scan.tone_taken = false;
+// Asks about a further tone. False: the scan ends. With Open it goes on whatever becomes of the old tone.
+bool Take_Further_Tone(Load_Mode mode) {
+  if (mode == Load_Mode::Soundcheck)
+    return Message_Box("File contains another TONE. Load it?", Box_Yes_No + Box_Question) == Answer::Yes;
+  const Answer answer =
+      Message_Box("File contains another TONE. Save old TONE first?", Box_Yes_No + Box_Question);
+  if (answer == Answer::Yes) Tone_SaveAs();
   return true;
 }
 
@@ -90,7 +82,6 @@ void Take_Tone(Scan& scan) {
   Tone_Loading = Flag_On;  // a Save As for the tone before may have ended the loading
   Tone_Show();
   scan.head.clear();
-  scan.tone_taken = true;
 }
 
 void Take_Patch(Scan& scan, Load_Mode mode) {
@@ -108,7 +99,7 @@ bool Take_Message(Scan& scan, Load_Mode mode) {
   Take_Head(scan);
   if (Has_Form(scan.head, Tone_Head_Form)) {
     scan.tone_at_start = scan.file.position == 1 + Head_Size;
-    if (scan.tone_taken && !Take_Further_Tone(scan, mode)) return false;
+    if (Tone_Found == Flag_On && !Take_Further_Tone(mode)) return false;
     Take_Tone(scan);
   } else if (Has_Form(scan.head, Patch_Head_Form) && scan.tone_at_start) {
     Take_Patch(scan, mode);

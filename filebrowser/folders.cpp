@@ -159,7 +159,6 @@ void FD_Folders_Wire() {
   directories.on_change = Directory_Changed;
   directories.on_double_click = Open_Entry;
   directories.on_key_down = Directory_Key;
-  directories.on_key_press = {};
   directories.on_mouse_down = [](const Mouse_Event&) { Select_Directory(Entry()); };
   File_Dlg.FD_List_Drives.on_change = Drive_Changed;
   Wire_Button(File_Dlg.FD_Button_Updir, Up);

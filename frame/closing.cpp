@@ -4,13 +4,16 @@
 
 #include "core/records.h"
 #include "core/settings.h"
+#include "core/tone_commands.h"
 #include "frame/menus.h"
 #include "frame/start_up.h"
 #include "midi/output.h"
+#include "midi/state.h"
 #include "panel/segments.h"
 #include "platform/desktop.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_commands.h"
+#include "sequencer/seq_transport.h"
 #include "windows/editor_window.h"
 #include "windows/frame_window.h"
 #include "windows/patch_window.h"
@@ -19,9 +22,13 @@
 
 namespace {
 
+// The closing may yet be refused, so the start buttons rise as they do after any stop.
 void Silence() {
-  if (Seq_Running == Flag_On) MELVOR.Seq_Tmr.enabled = false;
-  Seq_Running = Flag_Off;
+  if (Seq_Running == Flag_On) {
+    MELVOR.Seq_Tmr.enabled = false;
+    Seq_Running = Flag_Off;
+    Seq_Start_Faces_Up();
+  }
   MIDI_Reset();
 }
 
@@ -46,6 +53,7 @@ void Frame_Query(bool& cancel) {
 }
 
 void Frame_Unload() {
+  if (Receive_On != 0) Tone_Receive_Toggle();  // the wait has Autosend at 0, which is nobody's setting
   Pics_Release_Font();
   MELVOR.Timer_Display.enabled = false;
   Editor.Timer1.enabled = false;

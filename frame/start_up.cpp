@@ -27,6 +27,7 @@
 #include "sequencer/seq_clock.h"
 #include "sequencer/seq_commands.h"
 #include "sequencer/seq_editor.h"
+#include "sequencer/seq_files.h"
 #include "sequencer/seq_window.h"
 #include "windows/editor_window.h"
 #include "windows/focus_mark.h"

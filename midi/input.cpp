@@ -62,7 +62,10 @@ void MIDI_In_Free_Buffers(std::int32_t handle) {
 void MIDI_In_Open() {
   if (MIDI_In_Handle >= 0) return;
   MIDI_In_Handle = vbMidiInOpen(MIDI_In_Device, MELVOR.MidiNotifyControl);
-  if (MIDI_In_Handle > 0) midiInStart(MIDI_In_Handle);
+  if (MIDI_In_Handle <= 0) return;
+  const int code = midiInStart(MIDI_In_Handle);
+  MIDI_In_Error(code, "vbMidiInOpen");
+  if (code != Midi_Ok) MIDI_In_Close();
 }
 
 std::int32_t vbMidiInOpen(int device, Label& notify) {

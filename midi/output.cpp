@@ -46,7 +46,7 @@ void MIDI_Out_Close() {
   if (MIDI_Out_Handle == -1) return;  // the All Notes Off failed, and its report has closed the output
   int code = Midi_Ok;
   do {
-    if (Do_Events() == 0) break;
+    if (Do_Events() == 0 || MIDI_Out_Handle == -1) break;  // a failure meanwhile may have closed it
     code = midiOutClose(MIDI_Out_Handle);
   } while (code == Midi_Still_Playing);
   MIDI_Out_Handle = -1;
@@ -94,8 +94,10 @@ void Seq_SendAllNotesOff() {
   Seq_Note = Controller_All_Notes_Off;
   Seq_Velocity = 0;
   MIDI_Out_Open();
-  const int code = midiOutShortMsg(MIDI_Out_Handle, Pack(Seq_Status, Seq_Note, Seq_Velocity));
-  MIDI_Out_Error(code, "Seq_SendAllNotesOff");
+  if (MIDI_Enabled == 1) {
+    const int code = midiOutShortMsg(MIDI_Out_Handle, Pack(Seq_Status, Seq_Note, Seq_Velocity));
+    MIDI_Out_Error(code, "Seq_SendAllNotesOff");
+  }
   Seq_Status = Note_On_Status();
 }
 
@@ -120,12 +122,15 @@ void MIDI_Out_Error(int code, std::string_view procedure) {
   std::string text = midiOutGetErrorText(code);
   if (text.empty()) text = "Unknown error";
   Message_Box(std::string(procedure) + "*: (" + std::to_string(code) + ") " + text);
-  // A device that fails for good fails the All Notes Off of this close too; that is told, but closes nothing again.
+  if (code < 0) return;
+  // A device that fails for good fails the All Notes Off of this close too; that is told, but closes nothing
+  // again, and from then on no tick that falls into the close sends anything.
   static bool closing = false;
-  if (code < 0 || closing) return;
-  closing = true;
-  MIDI_Out_Close();
-  closing = false;
+  if (!closing) {
+    closing = true;
+    MIDI_Out_Close();
+    closing = false;
+  }
   MIDI_Enabled = 0;
 }
 

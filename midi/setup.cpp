@@ -49,9 +49,9 @@ bool MIDI_Setup_Input() { return Check_Device(Input); }
 }  // namespace
 
 bool MIDI_Read_Setup() {
-  const int channel = std::abs(Leading_Number(INI_Read("MIDI", "Channel", "1")));
-  MIDI_Channel =
-      channel < 1 || channel > Highest_Channel ? std::uint8_t{1} : static_cast<std::uint8_t>(channel);
+  const int channel = Leading_Number(INI_Read("MIDI", "Channel", "1"));  // its sign does not count
+  const bool usable = channel != 0 && channel >= -Highest_Channel && channel <= Highest_Channel;
+  MIDI_Channel = static_cast<std::uint8_t>(usable ? std::abs(channel) : 1);
   if (MIDI_Enabled != 1) return true;
   const bool output = MIDI_Setup_Output();
   const bool input = MIDI_Setup_Input();

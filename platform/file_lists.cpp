@@ -144,18 +144,6 @@ std::string Dir_List::Entry_Path(int entry_index) const {
   return Joined(path(), std::string_view(item).substr((open_depth + 1) * Indent));
 }
 
-int Dir_List::Open_Index() const { return Count() == 0 ? -1 : static_cast<int>(Depth_Of(path())); }
-
-void Dir_List::Open_Selected() {
-  if (index() >= 0) Set_Path(Entry_Path(index()));
-}
-
-void Dir_List::Open_By_Key(int& character) {
-  if (character != Key::Enter && character != Key::Space) return;
-  character = 0;
-  Open_Selected();
-}
-
 void File_List::Fill(const std::string& full_path) {
   const bool all = pattern() == All_Files;
   const std::string wanted = Upper(pattern());

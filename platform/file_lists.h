@@ -56,13 +56,11 @@ struct Path_List : List_Control {
 };
 
 // The path's ancestors from the root down, the directory itself as the open one, and the directories in it,
-// each a step further in (two blanks before its name).
+// each a step further in (two blanks before its name). The open one is selected after each Set_Path and
+// Refresh.
 struct Dir_List final : Path_List {
   template <class Owner>
-  Dir_List(Owner& owner, std::string_view control_name) : Path_List(owner, Kind::Dir_List, control_name) {
-    on_double_click = [this] { Open_Selected(); };
-    on_key_press = [this](int& character) { Open_By_Key(character); };
-  }
+  Dir_List(Owner& owner, std::string_view control_name) : Path_List(owner, Kind::Dir_List, control_name) {}
 
   // Lists the directory anew. One that has vanished gives way to the nearest one above it that is there, and
   // the change handler runs. A list without a path goes to the current directory, and runs no handler.
@@ -70,15 +68,9 @@ struct Dir_List final : Path_List {
 
   // The full path of an entry. Runtime_Error 380 if there is no such entry.
   std::string Entry_Path(int entry_index) const;
-  // The entry of the open directory, -1 for none. It is the selected one after each Set_Path and Refresh.
-  int Open_Index() const;
 
  protected:
   void Fill(const std::string& full_path) override;
-
- private:
-  void Open_Selected();
-  void Open_By_Key(int& character);  // Enter and Space
 };
 
 // The files of a directory that match a pattern, without regard to case.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iostream>
 #include <optional>
 #include <span>
 #include <utility>
@@ -78,20 +79,23 @@ Profile_Text Profile_To_Change(std::string_view path) {
   return Profile_At(path);
 }
 
-// Sets the values in their order and replaces the file once, if anything is new in it.
-bool Write_Values(std::string_view path, std::span<const Profile_Value> values) {
+// Sets the values in their order and replaces the file once, if anything is new in it. 0, or the error
+// number.
+int Write_Values(std::string_view path, std::span<const Profile_Value> values) {
   try {
     Profile_Text profile = Profile_To_Change(path);
-    if (profile.Text().size() >= Size_Limit) return false;  // there may be more of it on disk than was read
+    // There may be more of it on disk than was read.
+    if (profile.Text().size() >= Size_Limit) return Error_Out_Of_Memory;
     const std::string before = profile.Text();
     bool all_set = true;
     for (const auto& [section, key, value] : values) all_set = profile.Set(section, key, value) && all_set;
-    if (profile.Text() == before) return all_set;
-    Kept.reset();
-    File_Write(path, profile.Text());
-    return all_set;
-  } catch (const Runtime_Error&) {
-    return false;
+    if (profile.Text() != before) {
+      Kept.reset();
+      File_Write(path, profile.Text());
+    }
+    return all_set ? 0 : Error_Bad_Property_Value;
+  } catch (const Runtime_Error& error) {
+    return error.number;
   }
 }
 
@@ -119,7 +123,7 @@ std::string Get_Profile_String(std::string_view section, std::string_view key, s
 bool Write_Profile_String(std::string_view section, std::string_view key, std::string_view value,
                           std::string_view path) {
   const Profile_Value row{std::string(section), std::string(key), std::string(value)};
-  return !path.empty() && Write_Values(path, {&row, 1});
+  return !path.empty() && Write_Values(path, {&row, 1}) == 0;
 }
 
 std::string INI_Read(std::string_view section, std::string_view key, std::string_view default_value) {
@@ -142,7 +146,9 @@ void INI_Release() {
   const std::vector<Profile_Value> values = std::exchange(Held, {});
   if (values.empty() || INI_File.empty()) return;
   Program_Directory_Make();
-  Write_Values(INI_File, values);
+  // Not in a box: it would stand in the way of an end that nobody can put off.
+  if (const int error = Write_Values(INI_File, values); error != 0)
+    std::cerr << "MELVOR: the settings were not written to " << INI_File << ": " << Error_Text(error) << '\n';
 }
 
 std::string Path_Slash(std::string_view path) {

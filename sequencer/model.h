@@ -17,6 +17,8 @@ constexpr std::int16_t Seq_Strong = 127;
 constexpr std::int16_t Seq_Soft = 63;
 
 constexpr int Seq_Fastest = 120;
+constexpr int Seq_Default_Speed = 30;
+constexpr int Seq_Default_Range = 2;
 constexpr int Seq_Lowest_Note = 24;  // base note of the range "C0..C1" in "C"
 constexpr int Semitones_In_Octave = 12;
 
@@ -45,10 +47,6 @@ extern int Seq_Direction;  // 0: forward; 1: backward
 
 extern int Seq_Step;  // what the next tick plays, [-1, 8]: after passing an end it lies outside the matrix
 extern int Seq_Prev_Step;  // what the last tick played, [-1, 8]
-
-// Empties the matrix and puts tempo, range and flags to their start values. The file's path, the base note,
-// the clock and the controls of the window stay as they are.
-void Seq_Clear();
 
 // Note of a row, from the top: base note + 12 - row.
 int Seq_Row_Note(int row);

@@ -6,7 +6,7 @@
 #include "platform/convert.h"
 #include "platform/runtime_error.h"
 #include "sequencer/model.h"
-#include "sequencer/seq_window.h"
+#include "sequencer/seq_display.h"
 #include "windows/frame_window.h"
 #include "windows/state.h"
 
@@ -38,20 +38,12 @@ void Wrap(int& step) {
   if (step == -1 || step == Seq_Step_Count) step = Seq_Direction == Backward ? Last_Step : 0;
 }
 
-// A note that fails switches MIDI off: the rest of the step would only repeat its box.
-void Send_Step() {
-  const int offset = Seq_Step * Seq_Row_Count;
-  for (int row = 0; row < Seq_Row_Count && MIDI_Enabled == 1; ++row) {
-    Seq_SendNote(Seq_Row_Note(row), Seq_Data[static_cast<std::size_t>(offset + row)]);
-  }
-}
-
 void Play_Step() {
   Wrap(Seq_Step);
   Wrap(Seq_Prev_Step);
   Seq_Clock_Show(Seq_Prev_Step, false);
   Seq_Clock_Show(Seq_Step, true);
-  if (MIDI_Enabled == 1) Send_Step();
+  Seq_Send_Step(Seq_Step);
   Seq_Prev_Step = Seq_Step;
   if (Seq_Direction == Backward) {
     Seq_Step_Back(Seq_Step);
@@ -61,6 +53,14 @@ void Play_Step() {
 }
 
 }  // namespace
+
+// A note that fails switches MIDI off: the rest of the step would only repeat its box.
+void Seq_Send_Step(int step) {
+  const int offset = step * Seq_Row_Count;
+  for (int row = 0; row < Seq_Row_Count && MIDI_Enabled == 1; ++row) {
+    Seq_SendNote(Seq_Row_Note(row), Seq_Data[static_cast<std::size_t>(offset + row)]);
+  }
+}
 
 void Seq_Step_Forward(int& step) { ++step; }
 void Seq_Step_Back(int& step) { --step; }

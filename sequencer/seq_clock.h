@@ -9,6 +9,9 @@ void Seq_Clock_Wire();
 // row's note. Allocates nothing, opens nothing.
 void Seq_Tick();
 
+// Sends the 13 notes of a step, the top row first; a note that switches MIDI off ends it. step in [0, 7].
+void Seq_Send_Step(int step);
+
 void Seq_Step_Forward(int& step);
 void Seq_Step_Back(int& step);
 

@@ -8,6 +8,7 @@
 #include "midi/state.h"
 #include "panel/push_buttons.h"
 #include "sequencer/model.h"
+#include "sequencer/seq_clock.h"
 #include "sequencer/seq_transport.h"
 #include "windows/editor_window.h"
 #include "windows/pictures.h"
@@ -18,12 +19,6 @@ namespace {
 constexpr std::array C_Major_Chord{60, 64, 67, 72};
 constexpr int Chord_Velocity = 90;
 
-void Play_First_Step() {
-  for (int row = 0; row < Seq_Row_Count; ++row) {
-    Seq_SendNote(Seq_Row_Note(row), Seq_Data[static_cast<std::size_t>(row)]);
-  }
-}
-
 // The notes sound until the right button stops them; the pressed picture stands as long.
 void Play_Chord() {
   if (MIDI_Enabled != 1) return;
@@ -32,7 +27,7 @@ void Play_Chord() {
   if (MIDI_Enabled != 1) return;
   const bool filled = std::any_of(Seq_Data.begin(), Seq_Data.begin() + Seq_Row_Count,
                                   [](std::int16_t velocity) { return velocity != 0; });
-  if (filled) return Play_First_Step();
+  if (filled) return Seq_Send_Step(0);
   for (const int note : C_Major_Chord) MIDI_SendNote(note, Chord_Velocity);
 }
 

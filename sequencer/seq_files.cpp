@@ -1,5 +1,6 @@
 #include "sequencer/seq_files.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "core/recent.h"
@@ -11,9 +12,9 @@
 #include "platform/text.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_clock.h"
+#include "sequencer/seq_display.h"
 #include "sequencer/seq_pictures.h"
 #include "sequencer/seq_transport.h"
-#include "sequencer/seq_window.h"
 #include "windows/file_dlg_window.h"
 #include "windows/frame_window.h"
 #include "windows/modal.h"
@@ -33,7 +34,11 @@ constexpr std::size_t File_Size = Cells_Place + static_cast<std::size_t>(Seq_Cel
 constexpr int Preview_Pitch_px = 8;
 constexpr int Preview_Margin_px = 1;
 
-void Name_From(const std::string& path) { Seq_Name = Path_Behind(path, Dir_Sequences.size()); }
+// The directory ends in a backslash as the settings give it, but not as the file dialog leaves it.
+void Name_From(const std::string& path) {
+  Seq_Name = Path_Behind(path, Dir_Sequences.size());
+  if (Seq_Name.starts_with('\\')) Seq_Name.erase(0, 1);
+}
 
 bool Acceptable(const Byte_String& bytes) {
   return bytes.size() == File_Size &&
@@ -131,6 +136,20 @@ void Seq_Load(const std::string& path, Load_Mode mode) {
     Tell(error);
   }
   MELVOR.pointer = Pointer_Shape::Default;
+}
+
+void Seq_Clear() {
+  Seq_Step = 0;
+  Seq_Data.fill(0);
+  if (Seq_Open == Flag_On) Seq_Redraw();
+  MELVOR.Menu_File_Seq_Save.enabled = false;
+  Seq_Saved = Flag_On;
+  Seq_Name.clear();
+  Seq_Range_Index = Seq_Default_Range;
+  Seq_Speed = Seq_Default_Speed;
+  Seq_Loaded = Flag_Off;
+  Seq_Running = Flag_Off;
+  Seq_Buttons_Off();
 }
 
 void Seq_Save() {

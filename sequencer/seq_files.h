@@ -1,5 +1,5 @@
-// Sequence files: 110 bytes, "SEQ1", tempo, base note, and the 104 cells. Called by the menus, the file
-// dialog and the Sequencer.
+// Sequence files: 110 bytes, "SEQ1", tempo, base note, and the 104 cells; and the sequence without a file.
+// Called by the menus, the file dialog and the Sequencer.
 #pragma once
 
 #include <string>
@@ -12,6 +12,10 @@
 // dialog is open its preview is drawn. Failures are told in boxes. Once a file has been accepted, a later bad
 // one counts as loaded, without a word and with the cells as they were, until Seq_Clear.
 void Seq_Load(const std::string& path, Load_Mode mode);
+
+// Empties the matrix and puts tempo, range and flags to their start values. The file's path, the base note,
+// the clock and the controls of the window stay as they are.
+void Seq_Clear();
 
 // Writes Seq_File. What stands behind the 110 bytes of an older, longer file stays there. Runtime_Error as in
 // platform/files.h; then the old file is whole and Seq_Saved as it was.

@@ -4,6 +4,8 @@
 #include "platform/picture.h"
 #include "sequencer/model.h"
 
+constexpr int Cell_px = 12;  // width and height of a cell of the matrix
+
 struct Cell_Look {
   Picture matrix;
   Picture preview;

@@ -5,7 +5,7 @@
 #include "midi/state.h"
 #include "panel/push_buttons.h"
 #include "sequencer/model.h"
-#include "sequencer/seq_window.h"
+#include "sequencer/seq_display.h"
 #include "windows/editor_window.h"
 #include "windows/frame_window.h"
 #include "windows/pictures.h"

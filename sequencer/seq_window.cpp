@@ -8,6 +8,7 @@
 #include "platform/convert.h"
 #include "sequencer/seq_clock.h"
 #include "sequencer/seq_commands.h"
+#include "sequencer/seq_display.h"
 #include "sequencer/seq_files.h"
 #include "sequencer/seq_pictures.h"
 #include "sequencer/seq_transport.h"
@@ -20,7 +21,6 @@
 
 namespace {
 
-constexpr int Cell_px = 12;
 constexpr int Strong_Key_Velocity = 127;
 constexpr Picture New_Up{"seq-new-up"};
 constexpr Picture New_Down{"seq-new-dn"};
@@ -94,12 +94,6 @@ void Window_Key(Key_Event& key) {
   if (trans != Nothing && key.shift != Alt_Key) key.code = 0;
 }
 
-void Paint_Cell(int index) {
-  const int velocity = Seq_Data[static_cast<std::size_t>(index)];
-  Sequencer.Seq_Matrix.Paint(Look_Of(velocity).matrix, index / Seq_Row_Count * Cell_px,
-                             index % Seq_Row_Count * Cell_px);
-}
-
 void Matrix_Press(const Mouse_Event& event) {
   const int step = Round_16(static_cast<double>(event.x)) / Cell_px;
   const int row = Round_16(static_cast<double>(event.y)) / Cell_px;
@@ -107,7 +101,7 @@ void Matrix_Press(const Mouse_Event& event) {
   std::int16_t& cell = Seq_Data[static_cast<std::size_t>(index)];
   if (event.button == Left_Button) cell = cell == Seq_Strong ? std::int16_t{0} : Seq_Strong;
   if (event.button == Right_Button) cell = cell == Seq_Soft ? std::int16_t{0} : Seq_Soft;
-  Paint_Cell(index);
+  Seq_Draw_Cell(index);
   Seq_Saved = Flag_Off;
   if (MIDI_Enabled == 1) Seq_Buttons_On();
 }
@@ -235,19 +229,6 @@ void Seq_Pics_() {
   Push_Up(Sequencer.Seq_Start);
   Push_Up(Sequencer.Seq_Stop);
   New_Raised();
-}
-
-void Seq_Redraw() {
-  for (int index = 0; index < Seq_Cell_Count; ++index) Paint_Cell(index);
-}
-
-void Seq_Clock_Show(int step, bool lit) {
-  if (Seq_Open != Flag_On) return;
-  Sequencer.Seq_Clock[static_cast<std::size_t>(step)].picture = lit ? Indicator_Lit : Indicator_Dark;
-}
-
-void Seq_Clock_Dark() {
-  for (int step = 0; step < Seq_Step_Count; ++step) Seq_Clock_Show(step, false);
 }
 
 void Seq_Window_Wire() {

@@ -1,6 +1,5 @@
 // The Sequencer window: editing the matrix, the mouse keyboard, direction, range, transposition and tempo.
-// Wired by the frame at start; the model, the files and the clock show themselves through it while it is
-// open.
+// Wired by the frame at start.
 #pragma once
 
 #include <array>
@@ -22,10 +21,3 @@ inline constexpr std::array Seq_Mode_Buttons{Play_Mode::Forward,
 void Seq_Layout();
 // Gives all pictured controls their idle pictures; start and stop come up raised and enabled.
 void Seq_Pics_();
-
-// Draws all cells.
-void Seq_Redraw();
-
-// The step indicators. Nothing while the window is closed. step in [0, 7].
-void Seq_Clock_Show(int step, bool lit);
-void Seq_Clock_Dark();

@@ -1,4 +1,4 @@
-#include "client.h"
+#include "adapters/jack/client.h"
 
 #include <jack/midiport.h>
 

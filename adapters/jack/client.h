@@ -13,9 +13,9 @@
 #include <thread>
 #include <vector>
 
+#include "adapters/jack/output_slot.h"
+#include "adapters/jack/worker.h"
 #include "adapters/midi/backend.h"
-#include "output_slot.h"
-#include "worker.h"
 
 namespace Jack {
 

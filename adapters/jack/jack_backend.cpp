@@ -1,11 +1,11 @@
-#include "jack_backend.h"
+#include "adapters/jack/jack_backend.h"
 
 #include <chrono>
 #include <exception>
 #include <utility>
 
-#include "client.h"
-#include "worker.h"
+#include "adapters/jack/client.h"
+#include "adapters/jack/worker.h"
 
 namespace Jack {
 namespace {

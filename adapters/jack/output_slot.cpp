@@ -1,4 +1,4 @@
-#include "output_slot.h"
+#include "adapters/jack/output_slot.h"
 
 #include <jack/midiport.h>
 

@@ -1,4 +1,4 @@
-#include "worker.h"
+#include "adapters/jack/worker.h"
 
 #include <chrono>
 #include <thread>

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QScreen>
+#include <cstdio>
+#include <cstdlib>
 
 #include "adapters/qt/accessible.h"
 #include "adapters/qt/control_view.h"
@@ -14,13 +16,30 @@
 #include "adapters/qt/shell.h"
 #include "platform/form.h"
 
+namespace {
+
+QtMessageHandler Ordinary_Handler = nullptr;
+
+// What is fatal while the application object is made is the want of a display. The toolkit would abort.
+void Refuse_Without_Display(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type != QtFatalMsg) return Ordinary_Handler(type, context, text);
+  std::fprintf(stderr,
+               "MELVOR: no display to show the window on; DISPLAY is \"%s\", WAYLAND_DISPLAY is \"%s\".\n",
+               qgetenv("DISPLAY").constData(), qgetenv("WAYLAND_DISPLAY").constData());
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
 void Prepare_Toolkit() {
+  Ordinary_Handler = qInstallMessageHandler(Refuse_Without_Display);
   // The toolkit's own event loop instead of GLib's: it asks all descriptors at every turn, so the timers'
   // alarm is never behind other sources, and nothing of the program needs GLib's.
   qputenv("QT_NO_GLIB", "1");
 }
 
 Qt_Desktop::Qt_Desktop(std::string_view pictures_directory) {
+  qInstallMessageHandler(nullptr);
   QApplication::setQuitOnLastWindowClosed(false);
   Set_Look();
   shell_ = std::make_unique<Shell>(pictures_directory);

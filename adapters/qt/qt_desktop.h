@@ -10,7 +10,8 @@
 
 struct Shell;
 
-// Settings of the toolkit that must stand before the application object is made.
+// Settings of the toolkit that must stand before the application object is made. Where the toolkit finds no
+// display for that object, the program ends with a word about it and exit status 1.
 void Prepare_Toolkit();
 
 struct Qt_Desktop final : Desktop {

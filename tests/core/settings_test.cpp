@@ -66,4 +66,12 @@ TEST_F(Settings, What_Is_Written_Reads_Back_And_Writes_The_Same_Bytes) {
   EXPECT_EQ(root.Get("MELVOR.INI"), first);
 }
 
+TEST_F(Settings, A_Failed_Write_Is_Told_But_Not_In_A_Box) {
+  root.Make("MELVOR.INI");
+  testing::internal::CaptureStderr();
+  Settings_Save();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "MELVOR: the settings were not written to C:\\MELVOR.INI: Path/File access error\n");
+}
+
 }  // namespace

@@ -79,7 +79,8 @@ TEST_F(Tone_Commands, A_Failed_Open_Changes_Nothing_And_A_Vanished_Input_Closes)
   using Row = std::pair<Midi_Operation, const char*>;
   for (const auto& [operation, box] : {Row{Midi_Operation::In_Open, "vbMidiInOpen: Text of 4"},
                                        Row{Midi_Operation::In_Prepare, "vbMidiInPrepareHeader: Text of 4"},
-                                       Row{Midi_Operation::In_Add_Buffer, "vbMidiInAddBuffer: Text of 4"}}) {
+                                       Row{Midi_Operation::In_Add_Buffer, "vbMidiInAddBuffer: Text of 4"},
+                                       Row{Midi_Operation::In_Start, "vbMidiInOpen: Text of 4"}}) {
     service.Fail_Next(operation, Midi_Allocated);
     desktop.Expect_Box(Answer::Ok, box);
     Tone_Receive_Toggle();

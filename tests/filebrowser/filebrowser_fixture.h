@@ -14,6 +14,7 @@
 #include "panel/input_box.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_clock.h"
+#include "sequencer/seq_files.h"
 #include "support/program.h"
 #include "support/temporary_root.h"
 #include "windows/editor_window.h"

@@ -1,5 +1,6 @@
 // The frame: how the program starts and closes.
 #include "core/sysex.h"
+#include "core/tone_commands.h"
 #include "frame/whole_program.h"
 #include "windows/sequencer_window.h"
 
@@ -30,7 +31,7 @@ TEST_F(Frame, Only_Two_Densities_Are_Known) {
 TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Load) {
   desktop.Expect_Box(Answer::Ok, "MIDI output device not configured - starting MIDI setup.");
   desktop.Expect_Box(Answer::Ok, "MIDI input device (Gone) not available - starting MIDI setup.");
-  ASSERT_TRUE(Start("[MIDI]\nInput=Gone\nChannel=5\n"));
+  ASSERT_TRUE(Start("[MIDI]\nInput=Gone\nChannel=-5\n"));
   EXPECT_TRUE(MIDI_Setup.visible());
   EXPECT_EQ(SysEx_IPR_Tone, "F0 41 36 4 21 20 01 ") << "the load went on behind the window";
 }
@@ -77,12 +78,23 @@ TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
 
 TEST_F(Frame, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
   ASSERT_TRUE(Start());
+  const Picture raised = Editor.ED_Seq_Start.picture;
   Play();
+  EXPECT_NE(Editor.ED_Seq_Start.picture(), raised);
   service.Take_Hex();
   desktop.Expect_Box(Answer::Cancel, "Save actual SEQUENCE first?");
   EXPECT_FALSE(Unload(MELVOR));
   desktop.Advance_ms(1000);
   EXPECT_EQ(service.Take_Hex(), std::vector<std::string>{"B0 7B 00"});
+  EXPECT_EQ(Editor.ED_Seq_Start.picture(), raised);
+}
+
+TEST_F(Frame, Closing_While_It_Waits_For_A_Tone_Keeps_Autosend_In_The_Settings) {
+  ASSERT_TRUE(Start());
+  Tone_Receive();
+  EXPECT_EQ(Receive_On - Autosend, 1);
+  Unload(MELVOR);
+  EXPECT_NE(root.Get("MELVOR.INI").find("Autosend=1"), std::string::npos);
 }
 
 TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {

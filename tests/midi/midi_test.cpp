@@ -68,8 +68,9 @@ TEST_F(Midi, Close_Sends_All_Notes_Off_And_Asks_Again_While_The_Service_Plays) {
 }
 
 TEST_F(Midi, A_Failed_Open_Is_Told_And_Switches_MIDI_Off) {
-  service.Fail_Next(Midi_Operation::Out_Open, Midi_Allocated, 2);
-  for (void (*send)() : {+[] { MIDI_Send_Long("\xF0\xF7"); }, +[] { MIDI_SendNote(60, 1); }}) {
+  service.Fail_Next(Midi_Operation::Out_Open, Midi_Allocated, 3);
+  for (void (*send)() :
+       {+[] { MIDI_Send_Long("\xF0\xF7"); }, +[] { MIDI_SendNote(60, 1); }, Seq_SendAllNotesOff}) {
     MIDI_Enabled = 1;
     desktop.Expect_Box(Answer::Ok, "MIDI_Out_Open*: (4) Text of 4");
     send();
@@ -90,6 +91,11 @@ TEST_F(Midi, A_Short_Message_That_Fails_Closes_The_Output_And_Switches_MIDI_Off)
     EXPECT_EQ(service.Take_Hex(), Messages{"B0 7B 00"}) << "of the close";
     EXPECT_EQ(MIDI_Out_Handle + MIDI_Enabled, -1);
   }
+  MIDI_Enabled = 1;
+  MIDI_Out_Open();
+  desktop.Post([] { MIDI_Out_Error(Midi_No_Device, "Another"); });  // closes while the close lets events run
+  desktop.Expect_Box(Answer::Ok, "Another*: (68) Text of 68");
+  MIDI_Out_Close();
   MIDI_Enabled = 1;
   MIDI_Out_Open();
   service.Unplug();

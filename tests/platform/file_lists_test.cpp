@@ -31,9 +31,7 @@ TEST_F(File_Lists_Test, A_Directory_Shows_Its_Road_And_What_Lies_In_It) {
   EXPECT_EQ(directories.index(), 1);
   directories.Set_Path("Bank A");
   EXPECT_EQ(directories.Entry_Path(3), "C:\\Tones\\Bank A\\Old");
-  directories.Select(0);
-  int space = Key::Space;
-  directories.on_key_press(space);
+  directories.Set_Path(directories.Entry_Path(0));
   EXPECT_EQ(directories.path() + std::to_string(changes), "C:\\3");
   EXPECT_EQ(Raised([&] { directories.Set_Path("Tones\\brass.syx"); }), Error_Path_Not_Found);
   directories.Set_Path("Tones\\Bank A");

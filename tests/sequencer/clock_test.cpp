@@ -25,10 +25,16 @@ TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Sile
   Seq_Saved = Flag_Off;
   desktop.Click(Editor.ED_Seq_Start);
   service.Fail_Next(Midi_Operation::Out_Short, 5, 99);
-  desktop.on_other_box = [](const Shown_Box&) { return Answer::Ok; };
+  desktop.on_other_box = [this](const Shown_Box&) {
+    desktop.Advance_ms(300);  // the next tick is due when the box has gone
+    return Answer::Ok;
+  };
   desktop.Advance_ms(250);
   EXPECT_EQ(desktop.boxes.size(), 2U);
   EXPECT_EQ(MIDI_Enabled, 0);
+  MIDI_Enabled = 1;
+  MIDI_SendNote(60, 1);
+  EXPECT_EQ(desktop.boxes.size(), 4U) << "the tick inside the close tells nothing more";
 }
 
 TEST_F(Sequencer_Test, Each_Mode_Walks_Its_Way) {

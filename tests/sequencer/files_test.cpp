@@ -26,6 +26,9 @@ TEST_F(Sequencer_Test, A_Saved_File_Has_Head_Tempo_Base_Note_And_Cells_And_Keeps
   EXPECT_EQ(root.Get("my.seq"), want);
   EXPECT_EQ(root.Get("my.seq~"), File_Of(30, 48, 5) + "tail");
   EXPECT_EQ(Seq_Saved, Flag_On);
+  Dir_Sequences = "c:";  // as the file dialog leaves it
+  Menu_File_Seq_Save();
+  EXPECT_EQ(Sequencer.caption(), "Sequencer - MY.SEQ");
 
   Seq_File = "c:\\nowhere\\a.seq";
   Seq_Saved = Flag_Off;

@@ -10,6 +10,10 @@
 
 namespace {
 
+TEST(Start, Where_The_Toolkit_Gives_Up_The_Program_Ends_With_A_Word_Of_Its_Own) {
+  EXPECT_EXIT((Prepare_Toolkit(), qFatal("no platform")), testing::ExitedWithCode(1), "MELVOR: no display");
+}
+
 TEST_F(Desk, Input_Waits_In_Order_While_A_Handler_Lets_Only_Timers_Run) {
   knob.on_mouse_down = [&](const Mouse_Event&) { Note("press"); };
   knob.on_key_down = [&](Key_Event& key) { Note("key " + std::to_string(key.code)); };
