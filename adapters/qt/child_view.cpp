@@ -103,7 +103,3 @@ void Child_View::Bring_To_Front() {
   window_->raise();
   shell.frame->Keep_Order();
 }
-
-void Child_View::Keep_At_Bottom() {
-  if (form.bottom) window_->lower();
-}
