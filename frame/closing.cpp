@@ -7,7 +7,7 @@
 #include "frame/menus.h"
 #include "frame/start_up.h"
 #include "midi/output.h"
-#include "panel/segments.h"
+#include "panel/display_font.h"
 #include "platform/desktop.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_commands.h"
