@@ -46,8 +46,7 @@ void Patch_Slider_Drag(const Patch_Slider& slider, float y) {
 
 void Wire_Slider(const Patch_Slider& slider) {
   Picture_Box& element = slider.element;
-  element.on_got_focus = [&element] { Active_Ctl = &element; };
-  element.on_lost_focus = Ctl_Deselect;
+  Mark_On_Focus(element, element);
   element.on_key_down = [&slider](Key_Event& key) { Patch_Slider_Key(slider, key.code); };
   element.on_mouse_down = [&slider](const Mouse_Event&) {
     Patch_SetValue(slider.index, Patch_Rec[slider.index]);
@@ -97,12 +96,6 @@ void Patch_Unload() {
   Patch_Open = Flag_Off;
 }
 
-void Close_On_Escape(Key_Event& key) {
-  if (key.code != Key::Escape) return;
-  key.code = 0;
-  Unload(Patch);
-}
-
 }  // namespace
 
 void Patch_Wire() {
@@ -112,7 +105,7 @@ void Patch_Wire() {
   Wire_Detune();
   Patch.on_load = Patch_Load;
   Patch.on_unload = Patch_Unload;
-  Patch.on_key_down = Close_On_Escape;
+  Close_On_Escape(Patch);
   Patch_Shown = Show_All;
 }
 

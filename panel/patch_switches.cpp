@@ -75,16 +75,11 @@ void Patch_Switch_Drag(float y) {
   Tone_Saved = Flag_False;
 }
 
-void Wire_Focus(Picture_Box& element) {
-  element.on_got_focus = [&element] { Active_Ctl = &element; };
-  element.on_lost_focus = Ctl_Deselect;
-}
-
 }  // namespace
 
 void Patch_Switches_Wire() {
   Picture_Box& range = Patch.Pitch_Bend_Range;
-  Wire_Focus(range);
+  Mark_On_Focus(range, range);
   range.on_key_down = [](Key_Event& key) {
     const Direction direction = Direction_Of(key.code);
     if (direction != Direction::None) Patch_Switch_Step(Bend_Range, direction);
@@ -96,7 +91,7 @@ void Patch_Switches_Wire() {
                 [] { return Patch_Rec[Patch_Bend_Range] / Band; });
 
   Picture_Box& portamento = Patch.Portamento_Switch;
-  Wire_Focus(portamento);
+  Mark_On_Focus(portamento, portamento);
   portamento.on_key_down = [](Key_Event& key) {
     if (Direction_Of(key.code) != Direction::None) Portamento_Toggle();
   };

@@ -161,6 +161,14 @@ bool Unload(Form& form) {
   return true;
 }
 
+void Close_On_Escape(Form& form) {
+  form.on_key_down = [&form](Key_Event& key) {
+    if (key.code != Key::Escape) return;
+    key.code = 0;
+    Unload(form);
+  };
+}
+
 void Bring_To_Front(Form& form) {
   Load(form);
   if (!form.bottom) The_Desktop().Bring_To_Front(form);

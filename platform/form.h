@@ -83,6 +83,9 @@ void Hide(Form& form);
 // query refused: then nothing was closed. True at once if the form is not loaded.
 bool Unload(Form& form);
 
+// Fills on_key_down: Escape, wherever it is typed in the form, closes it. REQUIRES: key_preview.
+void Close_On_Escape(Form& form);
+
 // Puts the form in front of the other children; loads it if need be.
 void Bring_To_Front(Form& form);
 
