@@ -109,9 +109,6 @@ bool Close_Frame(Form& frame) {
   for (auto child = children.rbegin(); child != children.rend(); ++child) {
     if ((*child)->Loaded()) Close(**child);
   }
-  for (Form* other : std::vector<Form*>(Form_Stack::others)) {
-    if (other != &frame && other->Loaded()) Close(*other);
-  }
   Close(frame);
   The_Desktop().Quit();
   return true;
