@@ -89,12 +89,6 @@ void Credit_Click() {
   }
 }
 
-// While the dialog ends, the user's events run: none of them may close the window again.
-void Window_Unload() {
-  Help.enabled = false;
-  Dlg_Leave();
-}
-
 // The blink goes on behind this dialog: the examples blink too.
 void Hold_Program() {
   Dlg_Enter(Help, Dialog_Name);
@@ -157,7 +151,7 @@ void Menu_Help_About_Click() {
 void Help_Wire() {
   Help_Examples_Wire();
   Help.on_load = Help_Load;
-  Help.on_unload = Window_Unload;
+  Help.on_unload = Dlg_Leave;
   Close_On_Escape(Help);
   Help.Cmd_Howto.on_click = Howto_Click;
   Help.Cmd_Search.on_click = [] { Show_Page("Search"); };

@@ -84,7 +84,19 @@ bool Refuses_Unload(Form& form) {
   return cancel;
 }
 
+// Holds a form that closes out of the user's reach: what its handlers let run must not work it, nor close it once
+// more. One that stays open after all is as before.
+struct Out_Of_Reach {
+  explicit Out_Of_Reach(Form& closing) : form(closing), was_enabled(closing.enabled) { form.enabled = false; }
+  ~Out_Of_Reach() {
+    if (form.Loaded()) form.enabled = was_enabled;
+  }
+  Form& form;
+  const bool was_enabled;
+};
+
 void Close(Form& form) {
+  const Out_Of_Reach closing{form};
   if (Form_Stack::active == &form) Form_Stack::Leave_Active();
   if (form.on_unload) form.on_unload();
   const bool was_frame = form.role == Form_Role::Frame;
@@ -153,6 +165,7 @@ void Hide(Form& form) {
 bool Unload(Form& form) {
   if (!form.Loaded()) return true;
   if (form.role == Form_Role::Frame) return Close_Frame(form);
+  const Out_Of_Reach closing{form};
   if (Refuses_Unload(form)) return false;
   if (form.Loaded()) Close(form);
   return true;
