@@ -157,11 +157,6 @@ void Show(Form& form) {
   if (form.role != Form_Role::Frame) Activate(form);
 }
 
-void Hide(Form& form) {
-  if (Form_Stack::active == &form) Form_Stack::Leave_Active();
-  form.visible = false;
-}
-
 bool Unload(Form& form) {
   if (!form.Loaded()) return true;
   if (form.role == Form_Role::Frame) return Close_Frame(form);

@@ -87,12 +87,8 @@ void Child_View::Show_Place() {
   placing_ = true;
   QRect wanted = Wanted_Place();
   if (form.border == Border::None) wanted.moveTopLeft(QPoint(0, 0));
-  if (form.border == Border::Sizable) {
-    window_->resize(window_->size() + wanted.size() - body_->size());
-  } else {
-    body_->setFixedSize(wanted.size());
-    window_->setFixedSize(window_->layout()->totalMinimumSize());
-  }
+  body_->setFixedSize(wanted.size());
+  window_->setFixedSize(window_->layout()->totalMinimumSize());
   window_->move(wanted.topLeft() - shell.frame->Scrolled());
   placing_ = false;
 }
