@@ -5,7 +5,6 @@
 #include "core/records.h"
 #include "core/settings.h"
 #include "frame/menus.h"
-#include "frame/start_up.h"
 #include "midi/output.h"
 #include "panel/display_font.h"
 #include "platform/desktop.h"
@@ -60,12 +59,4 @@ void Frame_Unload() {
 void Closing_Wire() {
   MELVOR.on_query_unload = Frame_Query;
   MELVOR.on_unload = Frame_Unload;
-}
-
-void End_Without_Questions() {
-  The_Desktop().Quit();  // from here on no box waits for anybody, not even that of a device that has gone
-  if (!Started) return;  // the settings are not all read, and must not be written
-  Tone_Saved = Flag_True;
-  Seq_Saved = Flag_On;
-  Unload(MELVOR);
 }

@@ -35,9 +35,9 @@
 #include "windows/modal.h"
 #include "windows/state.h"
 
-bool Started = false;
-
 namespace {
+
+bool Started = false;  // whether the frame's load is through
 
 constexpr int Small_Fonts_PPI = 96;
 constexpr int Large_Fonts_PPI = 120;
@@ -55,6 +55,12 @@ void Timer_Display_Tick() {
   }
 }
 
+void Close_Unasked() {
+  Tone_Saved = Flag_True;
+  Seq_Saved = Flag_On;
+  Unload(MELVOR);
+}
+
 // The user hears that a window holds the program modal.
 void Frame_Click() {
   if (Active_Dlg.empty()) return;
@@ -67,9 +73,7 @@ void Refuse_Screen() {
           " ppi (pixel per inch).\rPlease set the font size to 'small fonts' (96 ppi) or 'large fonts (120 "
           "ppi).\r\rFor additional informations, see the README.TXT file.",
       Box_Stop);
-  Tone_Saved = Flag_True;
-  Seq_Saved = Flag_On;
-  Unload(MELVOR);
+  Close_Unasked();
 }
 
 void Reset_State() {
@@ -136,4 +140,9 @@ bool Start_Up() {
   MELVOR.Timer_Display.on_tick = Timer_Display_Tick;
   Show(MELVOR);
   return MELVOR.Loaded();
+}
+
+void End_Without_Questions() {
+  The_Desktop().Quit();  // from here on no box waits for anybody, not even that of a device that has gone
+  if (Started) Close_Unasked();  // else the settings are not all read, and must not be written
 }
