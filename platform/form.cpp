@@ -84,8 +84,8 @@ bool Refuses_Unload(Form& form) {
   return cancel;
 }
 
-// Holds a form that closes out of the user's reach: what its handlers let run must not work it, nor close it once
-// more. One that stays open after all is as before.
+// Holds a form that closes out of the user's reach: what its handlers let run must not work it, nor close it
+// once more. One that stays open after all is as before.
 struct Out_Of_Reach {
   explicit Out_Of_Reach(Form& closing) : form(closing), was_enabled(closing.enabled) { form.enabled = false; }
   ~Out_Of_Reach() {

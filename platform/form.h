@@ -79,8 +79,8 @@ void Show(Form& form);
 
 // Closes the form: query, then unload, then its controls are back at their design values. For the frame: the frame's
 // query, the children's queries, the unloads of independent forms, of the children and of the frame. False if a
-// query refused: then nothing was closed. True at once if the form is not loaded. A form that closes takes no more
-// of the user's events, whatever its handlers let run.
+// query refused: then nothing was closed. True at once if the form is not loaded. A form that closes takes no
+// more of the user's events, whatever its handlers let run.
 bool Unload(Form& form);
 
 // Fills on_key_down: Escape, wherever it is typed in the form, closes it. REQUIRES: key_preview.
