@@ -6,10 +6,9 @@
 #include "core/settings.h"
 #include "core/tone_commands.h"
 #include "frame/menus.h"
-#include "frame/start_up.h"
 #include "midi/output.h"
 #include "midi/state.h"
-#include "panel/segments.h"
+#include "panel/display_font.h"
 #include "platform/desktop.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_commands.h"
@@ -68,12 +67,4 @@ void Frame_Unload() {
 void Closing_Wire() {
   MELVOR.on_query_unload = Frame_Query;
   MELVOR.on_unload = Frame_Unload;
-}
-
-void End_Without_Questions() {
-  The_Desktop().Quit();  // from here on no box waits for anybody, not even that of a device that has gone
-  if (!Started) return;  // the settings are not all read, and must not be written
-  Tone_Saved = Flag_True;
-  Seq_Saved = Flag_On;
-  Unload(MELVOR);
 }

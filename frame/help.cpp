@@ -17,8 +17,7 @@ constexpr int Corner_px = 25;
 constexpr int Tune_Start = 63;
 constexpr std::string_view Howto_Info =
     "Select a control element on the left and read the corresponding description here. With the keyboard, "
-    "use "
-    "TAB/SHIFT+TAB to jump to the next/previous control.";
+    "use TAB/SHIFT+TAB to jump to the next/previous control.";
 
 std::string_view& Topic_Row(int row) {
   return Help_Topics[static_cast<std::size_t>(Checked_Index(row, static_cast<int>(Help_Topics.size())))];
@@ -90,18 +89,6 @@ void Credit_Click() {
   }
 }
 
-void Key_In_Window(Key_Event& key) {
-  if (key.code != Key::Escape) return;
-  key.code = 0;
-  Unload(Help);
-}
-
-// While the dialog ends, the user's events run: none of them may close the window again.
-void Window_Unload() {
-  Help.enabled = false;
-  Dlg_Leave();
-}
-
 // The blink goes on behind this dialog: the examples blink too.
 void Hold_Program() {
   Dlg_Enter(Help, Dialog_Name);
@@ -164,8 +151,8 @@ void Menu_Help_About_Click() {
 void Help_Wire() {
   Help_Examples_Wire();
   Help.on_load = Help_Load;
-  Help.on_unload = Window_Unload;
-  Help.on_key_down = Key_In_Window;
+  Help.on_unload = Dlg_Leave;
+  Close_On_Escape(Help);
   Help.Cmd_Howto.on_click = Howto_Click;
   Help.Cmd_Search.on_click = [] { Show_Page("Search"); };
   Help.Cmd_About.on_click = About_Click;

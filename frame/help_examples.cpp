@@ -3,12 +3,12 @@
 #include <string>
 #include <string_view>
 
+#include "core/tone_params.h"
 #include "panel/element_rules.h"
 #include "panel/elements.h"
 #include "panel/meanings.h"
 #include "platform/convert.h"
 #include "windows/focus_mark.h"
-#include "windows/frame_window.h"
 #include "windows/help_window.h"
 #include "windows/pictures.h"
 
@@ -232,8 +232,7 @@ void Help_Layout() {
 void Help_Demo_Store(int index, int value) {
   Help_Demo[index] = To_Byte(value);
   Help.HName.caption = Shown(index);
-  MELVOR.Timer_Display.enabled = false;
-  MELVOR.Timer_Display.enabled = true;
+  Display_Hold();
 }
 
 void Help_Show_Waiting() { Help.HName.caption = "Waiting..."; }

@@ -162,16 +162,12 @@ void Setup_Closing(bool&) {
   Dlg_Leave();
 }
 
-void Setup_Key(Key_Event& key) {
-  if (key.code == Key::Escape) Unload(MIDI_Setup);
-}
-
 }  // namespace
 
 void MIDI_Setup_Wire() {
   MIDI_Setup.on_load = Setup_Load;
   MIDI_Setup.on_query_unload = Setup_Closing;
-  MIDI_Setup.on_key_down = Setup_Key;
+  Close_On_Escape(MIDI_Setup);
   MIDI_Setup.Enable.on_click = Enable_Change;
   MIDI_Setup.AutoSend.on_click = [] { Autosend = MIDI_Setup.AutoSend.value() ? 1 : 0; };
   MIDI_Setup.AutoPlay.on_click = [] { Autoplay = MIDI_Setup.AutoPlay.value() ? 1 : 0; };

@@ -14,11 +14,11 @@
 #include "midi/setup.h"
 #include "midi/state.h"
 #include "oscillator/window.h"
+#include "panel/display_font.h"
 #include "panel/editor.h"
 #include "panel/input_box.h"
 #include "panel/patch.h"
 #include "panel/patch_mks70.h"
-#include "panel/segments.h"
 #include "panel/tone_name.h"
 #include "platform/desktop.h"
 #include "platform/directories.h"
@@ -36,9 +36,9 @@
 #include "windows/modal.h"
 #include "windows/state.h"
 
-bool Started = false;
-
 namespace {
+
+bool Started = false;  // whether the frame's load is through
 
 constexpr int Small_Fonts_PPI = 96;
 constexpr int Large_Fonts_PPI = 120;
@@ -56,6 +56,12 @@ void Timer_Display_Tick() {
   }
 }
 
+void Close_Unasked() {
+  Tone_Saved = Flag_True;
+  Seq_Saved = Flag_On;
+  Unload(MELVOR);
+}
+
 // The user hears that a window holds the program modal.
 void Frame_Click() {
   if (Active_Dlg.empty()) return;
@@ -68,9 +74,7 @@ void Refuse_Screen() {
           " ppi (pixel per inch).\rPlease set the font size to 'small fonts' (96 ppi) or 'large fonts (120 "
           "ppi).\r\rFor additional informations, see the README.TXT file.",
       Box_Stop);
-  Tone_Saved = Flag_True;
-  Seq_Saved = Flag_On;
-  Unload(MELVOR);
+  Close_Unasked();
 }
 
 void Reset_State() {
@@ -137,4 +141,9 @@ bool Start_Up() {
   MELVOR.Timer_Display.on_tick = Timer_Display_Tick;
   Show(MELVOR);
   return MELVOR.Loaded();
+}
+
+void End_Without_Questions() {
+  The_Desktop().Quit();  // from here on no box waits for anybody, not even that of a device that has gone
+  if (Started) Close_Unasked();  // else the settings are not all read, and must not be written
 }

@@ -6,9 +6,6 @@
 // gone again, after a box that says why.
 bool Start_Up();
 
-// Whether the frame's load is through.
-extern bool Started;
-
 // Ends the program in order without questions or any other box, for a signal of the system: clock off, All
 // Notes Off, settings written. During the start it only makes an end.
 void End_Without_Questions();

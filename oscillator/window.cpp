@@ -99,29 +99,17 @@ void Osc_Unload() {
   Osc_Open = Flag_Off;
 }
 
-// The space bar works a light or a button as the left mouse button does.
-void Wire_Space(Picture_Box& element) {
-  element.on_key_down = [&element](Key_Event& key) {
-    if (key.code != Key::Space) return;
-    key.code = 0;
-    const Mouse_Event press{Left_Button, key.shift, 0, 0};
-    if (element.on_mouse_down) element.on_mouse_down(press);
-    if (element.on_mouse_up) element.on_mouse_up(press);
-    element.on_click();
-  };
-}
-
 void Wire_Lights() {
   for (int wave = 0; wave < Osc_Waves; ++wave) {
     Picture_Box& light = Oscillator.Osc_Wave[static_cast<std::size_t>(wave)];
     light.on_click = [wave] { Wave_Click(wave); };
     light.on_double_click = Wave_Double_Click;
     light.is_on = [&light] { return light.picture() != LED(LED_Dark); };
-    Wire_Space(light);
+    Work_By_Space(light);
   }
   Oscillator.Osc_Invert.on_click = Invert_Click;
   Oscillator.Osc_Invert.is_on = Is_Inverted;
-  Wire_Space(Oscillator.Osc_Invert);
+  Work_By_Space(Oscillator.Osc_Invert);
 }
 
 // The start button stays down until the stop button is released.
@@ -134,8 +122,8 @@ void Wire_Buttons() {
     Push_Up(Oscillator.Osc_Start);
   };
   Oscillator.Osc_Stop.on_click = Osc_Stop;
-  Wire_Space(Oscillator.Osc_Start);
-  Wire_Space(Oscillator.Osc_Stop);
+  Work_By_Space(Oscillator.Osc_Start);
+  Work_By_Space(Oscillator.Osc_Stop);
 }
 
 }  // namespace
@@ -154,7 +142,4 @@ void Osc_Wire() {
   Wire_Buttons();
 }
 
-void Osc_Open_Window() {
-  Bring_To_Front(Oscillator);
-  Show(Oscillator);
-}
+void Osc_Open_Window() { Show(Oscillator); }

@@ -19,15 +19,9 @@ constexpr int Upper_Row_Top = 32;
 constexpr int Lower_Row_Top = 278;
 constexpr int Half = 64;
 
-// An element becomes the selected one with the focus; its picture changes at the next blink.
-void Wire_Focus(Picture_Box& element, Picture_Box& mark) {
-  element.on_got_focus = [&mark] { Active_Ctl = &mark; };
-  element.on_lost_focus = Ctl_Deselect;
-}
-
 void Wire_Slider(const Slider_Row& row) {
   Picture_Box& element = Editor.*row.element;
-  Wire_Focus(element, element);
+  Mark_On_Focus(element, element);
   element.on_key_down = [&row](Key_Event& key) { Slider_Key(row.range, key.code); };
   element.on_mouse_down = [&row](const Mouse_Event&) {
     Tone_Param_Set(row.range.index, Tone[row.range.index]);
@@ -52,7 +46,7 @@ int Band_Of(Bands bands, int value) {
 
 void Wire_Switch(const Switch_Row& row) {
   Picture_Box& element = Editor.*row.element;
-  Wire_Focus(element, element);
+  Mark_On_Focus(element, element);
   element.on_key_down = [&row](Key_Event& key) { Switch_Key(row.range, key.code); };
   element.on_mouse_move = [&row](const Mouse_Event& event) {
     if (event.button != 0) Switch_Drag(row.range, event.y);
@@ -64,7 +58,7 @@ void Wire_Switch(const Switch_Row& row) {
 void Wire_Knob(const Knob_Row& row) {
   Picture_Box& dot = Editor.*row.dot;
   for (Picture_Box* element : {&(Editor.*row.body), &dot}) {
-    Wire_Focus(*element, dot);
+    Mark_On_Focus(*element, dot);
     element->on_key_down = [&row](Key_Event& key) { Knob_Key(row.index, key.code); };
     element->on_mouse_down = [&row](const Mouse_Event&) { Tone_Param_Set(row.index, Tone[row.index]); };
     element->on_mouse_move = [&row](const Mouse_Event& event) {

@@ -1,5 +1,6 @@
 #include "panel/elements.h"
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
@@ -16,11 +17,13 @@ namespace {
 
 constexpr int Positions = 4;
 constexpr int Band = 32;
-constexpr int Smallest_Sent_Step = 4;
+constexpr int Largest_Unsent_Step = 4;
 constexpr double Dot_Radius_px = 5.0;
 constexpr double Degrees_Upright = 90.0;
 
-Drag_Memory last_drag;
+// Of the last step of a switch drag, in whichever window. No switch has the index of the start.
+int Drag_Last_Value = 0;
+int Drag_Last_Index = -1;
 
 bool Is_Three_Way(int index) { return index == Index_Chorus_Mode || index == Index_LFO_Waveform; }
 
@@ -86,9 +89,10 @@ void Switch_Key(const Element_Range& range, int key_code) {
   Switch_Place(range);
 }
 
-bool Drag_Step_Counts(Drag_Memory& memory, int index, int value) {
-  const bool counts = std::abs(memory.value - value) > Smallest_Sent_Step && memory.index == index;
-  memory = {value, index};
+bool Drag_Step_Counts(int index, int value) {
+  const bool counts = std::abs(Drag_Last_Value - value) > Largest_Unsent_Step && Drag_Last_Index == index;
+  Drag_Last_Value = value;
+  Drag_Last_Index = index;
   return counts;
 }
 
@@ -96,7 +100,7 @@ void Switch_Drag(const Element_Range& range, float y) {
   const int value = Switch_Drag_Value(Tone[range.index], y);
   Tone[range.index] = To_Byte(value);
   Switch_Place(range);
-  if (Drag_Step_Counts(last_drag, range.index, value)) Tone_Param_Send(range.index);
+  if (Drag_Step_Counts(range.index, value)) Tone_Param_Send(range.index);
   Tone_Saved = Flag_False;
 }
 

@@ -24,8 +24,7 @@ void Slider_Drag(const Element_Range& range, float y);
 void Slider_Place(const Element_Range& range);
 
 void Switch_Key(const Element_Range& range, int key_code);
-// Stores the value at once; sends it only if the last drag step was on the same switch and differed by more
-// than 4.
+// Stores the value at once; sends it only if Drag_Step_Counts.
 void Switch_Drag(const Element_Range& range, float y);
 // Places the cap by the band of its value; a three-way switch leaves it alone in the gaps between its bands.
 void Switch_Place(const Element_Range& range);
@@ -53,10 +52,6 @@ void Knob_Mark(const Knob_Circle& circle, double shown);
 // Places a dot for a shown value, whichever element is selected.
 void Dot_Place(Picture_Box& dot, const Knob_Circle& circle, double shown);
 
-// Last value and record index of a switch drag, of any element of the same window family.
-struct Drag_Memory {
-  int value = 0;
-  int index = 0;
-};
-// Whether a drag step to value may be sent; remembers the step in any case.
-bool Drag_Step_Counts(Drag_Memory& memory, int index, int value);
+// Whether a step of a switch drag may be sent: the last one was on the same switch and differed by more
+// than 4. Remembers the step in any case.
+bool Drag_Step_Counts(int index, int value);

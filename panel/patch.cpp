@@ -1,11 +1,8 @@
 #include "panel/patch.h"
 
-#include <algorithm>
 #include <array>
-#include <string>
 
 #include "core/records.h"
-#include "core/sysex.h"
 #include "core/tone_params.h"
 #include "midi/state.h"
 #include "panel/element_rules.h"
@@ -14,6 +11,7 @@
 #include "panel/patch_knob.h"
 #include "panel/patch_lights.h"
 #include "panel/patch_switches.h"
+#include "panel/patch_values.h"
 #include "platform/convert.h"
 #include "platform/desktop.h"
 #include "windows/focus_mark.h"
@@ -31,30 +29,30 @@ struct Patch_Slider {
 const std::array Patch_Sliders{Patch_Slider{Patch.Portamento_Time, Patch_Portamento_Time},
                                Patch_Slider{Patch.Pitch_Bend_LFO, Patch_Bend_LFO}};
 
-bool Is_Patch_Slider(int index) { return index == Patch_Portamento_Time || index == Patch_Bend_LFO; }
-
-void Patch_Slider_Set(const Patch_Slider& slider, int value) {
-  Patch_SetValue(slider.index, value);
-  slider.element.top = Patch_Control_Top(slider.index);
-}
+void Patch_Slider_Place(const Patch_Slider& slider) { slider.element.top = Patch_Control_Top(slider.index); }
 
 // A key that is none of a slider stores and sends the present value again.
 void Patch_Slider_Key(const Patch_Slider& slider, int key_code) {
   const int value = Patch_Rec[slider.index];
   const auto moved = Slider_Key_Value(value, key_code, Page_Of_Patch_Slider);
-  Patch_Slider_Set(slider, moved ? *moved : Clamp(value, 0, Value_Limit));
+  Patch_SetValue(slider.index, moved ? *moved : Clamp(value, 0, Value_Limit));
+  Patch_Slider_Place(slider);
+}
+
+void Patch_Slider_Drag(const Patch_Slider& slider, float y) {
+  Patch_SetValue(slider.index, Slider_Drag_Value(Patch_Rec[slider.index], y));
+  Patch_Slider_Place(slider);
 }
 
 void Wire_Slider(const Patch_Slider& slider) {
   Picture_Box& element = slider.element;
-  element.on_got_focus = [&element] { Active_Ctl = &element; };
-  element.on_lost_focus = Ctl_Deselect;
+  Mark_On_Focus(element, element);
   element.on_key_down = [&slider](Key_Event& key) { Patch_Slider_Key(slider, key.code); };
   element.on_mouse_down = [&slider](const Mouse_Event&) {
     Patch_SetValue(slider.index, Patch_Rec[slider.index]);
   };
   element.on_mouse_move = [&slider](const Mouse_Event& event) {
-    if (event.button != 0) Patch_Slider_Set(slider, Slider_Drag_Value(Patch_Rec[slider.index], event.y));
+    if (event.button != 0) Patch_Slider_Drag(slider, event.y);
   };
   Tell_99(element, Page_Of_Patch_Slider, [&slider] { return int{Patch_Rec[slider.index]}; });
 }
@@ -73,11 +71,9 @@ void Wire_Detune() {
 
 void Show_All() {
   Patch.Pitch_Bend_Range.top = Patch_Control_Top(Patch_Bend_Range);
-  for (const Patch_Slider& slider : Patch_Sliders) slider.element.top = Patch_Control_Top(slider.index);
+  for (const Patch_Slider& slider : Patch_Sliders) Patch_Slider_Place(slider);
   Patch.Portamento_Switch.top = Patch_Control_Top(Patch_Portamento_Switch);
-  for (const int index : {Patch_Key_Mode, Patch_After_Touch}) {
-    Patch_Lights_Show(index, Patch_Control_Top(index));
-  }
+  Patch_Lights_Show();
   Dot_Place(Patch.UDTune_Knopf, Fine_Circle, Bipolar_50(Detune()));
 }
 
@@ -100,39 +96,7 @@ void Patch_Unload() {
   Patch_Open = Flag_Off;
 }
 
-void Close_On_Escape(Key_Event& key) {
-  if (key.code != Key::Escape) return;
-  key.code = 0;
-  Unload(Patch);
-}
-
 }  // namespace
-
-void Patch_SetValue(int index, int value) {
-  Patch_Rec[index] = To_Byte(value);
-  if (Tone_Loading == Flag_Off) {
-    if (Is_Patch_Slider(index)) Display_Value(Shown_99(value));
-    if (index == Patch_Index_UDTune) Display_Value(Bipolar_50(value));
-    Display_Hold();
-  }
-  Patch_Param_Send(index);
-  Tone_Saved = Flag_False;
-}
-
-int Patch_Control_Top(int index) {
-  const int value = Patch_Rec[index];
-  switch (index) {
-    case Patch_Bend_Range:
-      return Switch_Top_At(Bend_Range_Top_px, std::min(value, Value_Limit));
-    case Patch_Portamento_Switch:
-      return value < Portamento_On ? Portamento_Off_Top_px : Portamento_On_Top_px;
-    case Patch_Key_Mode:
-    case Patch_After_Touch:
-      return Patch_Light_Of(index, value);
-    default:
-      return Slider_Top_At(Patch_Slider_Bottom_px, value);
-  }
-}
 
 void Patch_Wire() {
   for (const Patch_Slider& slider : Patch_Sliders) Wire_Slider(slider);
@@ -141,7 +105,7 @@ void Patch_Wire() {
   Wire_Detune();
   Patch.on_load = Patch_Load;
   Patch.on_unload = Patch_Unload;
-  Patch.on_key_down = Close_On_Escape;
+  Close_On_Escape(Patch);
   Patch_Shown = Show_All;
 }
 

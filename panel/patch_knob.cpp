@@ -17,8 +17,7 @@ void Turn(const Patch_Knob& knob, int value, const Knob_Circle& circle) {
 
 void Wire_Patch_Knob(const Patch_Knob& knob, Picture_Box& element, int (*key_value)(int value, int key_code),
                      Knob_Circle (*key_circle)()) {
-  element.on_got_focus = [&dot = knob.dot] { Active_Ctl = &dot; };
-  element.on_lost_focus = Ctl_Deselect;
+  Mark_On_Focus(element, knob.dot);
   element.on_key_down = [=](Key_Event& key) { Turn(knob, key_value(knob.value(), key.code), key_circle()); };
   element.on_mouse_down = [knob](const Mouse_Event&) { knob.set(knob.value()); };
   element.on_mouse_move = [knob](const Mouse_Event& event) {

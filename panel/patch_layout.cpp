@@ -3,7 +3,7 @@
 
 #include "panel/element_looks.h"
 #include "panel/patch.h"
-#include "panel/patch_switches.h"
+#include "panel/patch_values.h"
 #include "windows/patch_window.h"
 
 namespace {

@@ -1,11 +1,10 @@
 #include "panel/patch_lights.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
 
-#include "panel/patch.h"
+#include "panel/patch_values.h"
 #include "platform/convert.h"
 #include "platform/form.h"
 #include "windows/focus_mark.h"
@@ -17,14 +16,11 @@ namespace {
 struct Light_Group {
   int index;  // in Patch_Rec
   std::span<Picture_Box> items;
-  std::span<const std::uint8_t> values;  // of the items; there is no 3
+  std::span<const std::uint8_t> values;  // of the items
   int& selection;
   int up;      // what the upward keys add to the selection
   int lowest;  // that a key can ask for
 };
-
-constexpr std::array<std::uint8_t, 6> Key_Mode_Values{0, 1, 2, 4, 5, 6};
-constexpr std::array<std::uint8_t, 4> After_Touch_Values{0, 1, 2, 4};
 
 // Key mode has no lower bound: a step below item 0 overflows.
 const std::array Groups{
@@ -33,10 +29,6 @@ const std::array Groups{
 };
 const Light_Group& Key_Mode_Group = Groups[0];
 const Light_Group& After_Touch_Group = Groups[1];
-
-const Light_Group& Group_Of(int index) {
-  return index == Patch_Key_Mode ? Key_Mode_Group : After_Touch_Group;
-}
 
 Picture_Box& Selected(const Light_Group& group) {
   return group.items[static_cast<std::size_t>(group.selection)];
@@ -100,10 +92,6 @@ void Patch_Lights_Wire() {
   }
 }
 
-int Patch_Light_Of(int index, int value) {
-  const auto values = Group_Of(index).values;
-  const auto found = std::ranges::find(values, value);
-  return found == values.end() ? 0 : static_cast<int>(found - values.begin());
+void Patch_Lights_Show() {
+  for (const Light_Group& group : Groups) Light(group, Patch_Control_Top(group.index));
 }
-
-void Patch_Lights_Show(int index, int item) { Light(Group_Of(index), item); }

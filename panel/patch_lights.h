@@ -6,7 +6,5 @@
 // Fills the event slots of both groups.
 void Patch_Lights_Wire();
 
-// index is Patch_Key_Mode or Patch_After_Touch.
-int Patch_Light_Of(int index,
-                   int value);  // the item that a byte lights; item 0 for a byte that belongs to none
-void Patch_Lights_Show(int index, int item);
+// Lights the items of the record's present bytes.
+void Patch_Lights_Show();

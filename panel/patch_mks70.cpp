@@ -86,12 +86,6 @@ void MKS70_Unload() {
   Patch_Top = Patch_MKS70.top;
 }
 
-void Close_On_Escape(Key_Event& key) {
-  if (key.code != Key::Escape) return;
-  key.code = 0;
-  Unload(Patch_MKS70);
-}
-
 }  // namespace
 
 // The two are not mirror images: only B shows its split point again.
@@ -139,5 +133,5 @@ void MKS70_Wire() {
   };
   Patch_MKS70.on_load = MKS70_Load;
   Patch_MKS70.on_unload = MKS70_Unload;
-  Patch_MKS70.on_key_down = Close_On_Escape;
+  Close_On_Escape(Patch_MKS70);
 }

@@ -85,7 +85,7 @@ struct Picture_Box final : Control {
   std::function<bool()> is_on;  // of a light
 };
 
-enum class Alignment { Left, Center, Right };
+enum class Alignment { Left, Center };
 
 struct Label final : Control {
   template <class Owner>

@@ -84,7 +84,19 @@ bool Refuses_Unload(Form& form) {
   return cancel;
 }
 
+// Holds a form that closes out of the user's reach: what its handlers let run must not work it, nor close it
+// once more. One that stays open after all is as before.
+struct Out_Of_Reach {
+  explicit Out_Of_Reach(Form& closing) : form(closing), was_enabled(closing.enabled) { form.enabled = false; }
+  ~Out_Of_Reach() {
+    if (form.Loaded()) form.enabled = was_enabled;
+  }
+  Form& form;
+  const bool was_enabled;
+};
+
 void Close(Form& form) {
+  const Out_Of_Reach closing{form};
   if (Form_Stack::active == &form) Form_Stack::Leave_Active();
   if (form.on_unload) form.on_unload();
   const bool was_frame = form.role == Form_Role::Frame;
@@ -108,9 +120,6 @@ bool Close_Frame(Form& frame) {
   }
   for (auto child = children.rbegin(); child != children.rend(); ++child) {
     if ((*child)->Loaded()) Close(**child);
-  }
-  for (Form* other : std::vector<Form*>(Form_Stack::others)) {
-    if (other != &frame && other->Loaded()) Close(*other);
   }
   Close(frame);
   The_Desktop().Quit();
@@ -148,17 +157,21 @@ void Show(Form& form) {
   if (form.role != Form_Role::Frame) Activate(form);
 }
 
-void Hide(Form& form) {
-  if (Form_Stack::active == &form) Form_Stack::Leave_Active();
-  form.visible = false;
-}
-
 bool Unload(Form& form) {
   if (!form.Loaded()) return true;
   if (form.role == Form_Role::Frame) return Close_Frame(form);
+  const Out_Of_Reach closing{form};
   if (Refuses_Unload(form)) return false;
   if (form.Loaded()) Close(form);
   return true;
+}
+
+void Close_On_Escape(Form& form) {
+  form.on_key_down = [&form](Key_Event& key) {
+    if (key.code != Key::Escape) return;
+    key.code = 0;
+    Unload(form);
+  };
 }
 
 void Bring_To_Front(Form& form) {

@@ -22,9 +22,9 @@ enum class Form_Role {
 };
 
 enum class Border {
-  None,   // fixed at the frame's top left corner
-  Fixed,  // title bar, fixed size
-  Sizable,
+  None,     // fixed at the frame's top left corner
+  Fixed,    // title bar, fixed size
+  Sizable,  // the frame's
 };
 
 enum class Window_State { Normal = 0, Minimized = 1, Maximized = 2 };
@@ -54,7 +54,7 @@ struct Form : Component {
   std::vector<Timer*> timers;
   std::vector<Menu_Item*> menus;  // top-level items, for the frame
 
-  std::function<void()> on_load, on_unload, on_activate, on_deactivate, on_click, on_resize;
+  std::function<void()> on_load, on_unload, on_activate, on_deactivate, on_click;
   // Sets cancel to true to keep the form open.
   std::function<void(bool& cancel)> on_query_unload;
   std::function<void(Key_Event&)> on_key_down;  // with key_preview, or when no control has the focus
@@ -76,12 +76,15 @@ void Load(Form& form);
 // (whoever must wait for it does so). A form whose load raised is shown before the error passes on, so that it can
 // be closed.
 void Show(Form& form);
-void Hide(Form& form);
 
 // Closes the form: query, then unload, then its controls are back at their design values. For the frame: the frame's
 // query, the children's queries, the unloads of independent forms, of the children and of the frame. False if a
-// query refused: then nothing was closed. True at once if the form is not loaded.
+// query refused: then nothing was closed. True at once if the form is not loaded. A form that closes takes no
+// more of the user's events, whatever its handlers let run.
 bool Unload(Form& form);
+
+// Fills on_key_down: Escape, wherever it is typed in the form, closes it. REQUIRES: key_preview.
+void Close_On_Escape(Form& form);
 
 // Puts the form in front of the other children; loads it if need be.
 void Bring_To_Front(Form& form);

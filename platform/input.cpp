@@ -272,8 +272,6 @@ void User_Closes(Form& form) {
 void User_Placed(Form& form, int left, int top, int width, int height) {
   form.left = left;
   form.top = top;
-  const bool sized = form.width() != width || form.height() != height;
   form.width = width;
   form.height = height;
-  if (sized) Run(form.on_resize);
 }

@@ -88,3 +88,8 @@ void Ctl_Deselect() {
   Show_Mark(*row, 0);
   if (row->tag == Light_Tag) Light_Chosen();
 }
+
+void Mark_On_Focus(Picture_Box& element, Picture_Box& mark) {
+  element.on_got_focus = [&mark] { Active_Ctl = &mark; };
+  element.on_lost_focus = Ctl_Deselect;
+}

@@ -22,3 +22,7 @@ void Ctl_Blink();
 // Puts the resting picture of the selected element back. It stays selected, so that the next activation of
 // its window carries on with it.
 void Ctl_Deselect();
+
+// Fills the focus slots of an element: with the focus, mark becomes the selected one (the element itself, or
+// the dot of a knob); its picture changes at the next blink.
+void Mark_On_Focus(Picture_Box& element, Picture_Box& mark);

@@ -87,12 +87,8 @@ void Child_View::Show_Place() {
   placing_ = true;
   QRect wanted = Wanted_Place();
   if (form.border == Border::None) wanted.moveTopLeft(QPoint(0, 0));
-  if (form.border == Border::Sizable) {
-    window_->resize(window_->size() + wanted.size() - body_->size());
-  } else {
-    body_->setFixedSize(wanted.size());
-    window_->setFixedSize(window_->layout()->totalMinimumSize());
-  }
+  body_->setFixedSize(wanted.size());
+  window_->setFixedSize(window_->layout()->totalMinimumSize());
   window_->move(wanted.topLeft() - shell.frame->Scrolled());
   placing_ = false;
 }
@@ -102,8 +98,4 @@ void Child_View::Activate() { shell.frame->Activate_Child(*window_); }
 void Child_View::Bring_To_Front() {
   window_->raise();
   shell.frame->Keep_Order();
-}
-
-void Child_View::Keep_At_Bottom() {
-  if (form.bottom) window_->lower();
 }

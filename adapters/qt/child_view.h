@@ -28,9 +28,6 @@ struct Child_View final : Form_View {
   void Activate() override;
   void Bring_To_Front() override;
 
-  // The bottom window under all others again, after another came up or it was activated itself.
-  void Keep_At_Bottom();
-
  private:
   void Show_Window() override;
   void Silence() override;

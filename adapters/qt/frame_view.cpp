@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QWindow>
 
-#include "adapters/qt/child_view.h"
 #include "adapters/qt/control_view.h"
 #include "adapters/qt/look.h"
 #include "adapters/qt/shell.h"
@@ -141,7 +140,8 @@ void Frame_View::Activate_Child(QMdiSubWindow& child) {
 
 void Frame_View::Keep_Order() {
   for (const Form* child : Loaded_Children()) {
-    if (auto* view = static_cast<Child_View*>(shell.View_Of(*child))) view->Keep_At_Bottom();
+    if (!child->bottom) continue;
+    if (Form_View* view = shell.View_Of(*child)) view->Window().lower();
   }
   for (const Control* control : form.controls) {
     const Control_View* view = shell.View_Of(*control);

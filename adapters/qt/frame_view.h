@@ -53,7 +53,8 @@ struct Frame_View final : Form_View {
   void Add_Child(QMdiSubWindow& child);
   void Remove_Child(QMdiSubWindow& child);
   void Activate_Child(QMdiSubWindow& child);
-  // The frame's own controls at the very bottom, then the bottom form, then the rest.
+  // The frame's own controls at the very bottom, then the bottom form, then the rest; after a child came up
+  // or was activated.
   void Keep_Order();
   QPoint Scrolled() const { return area_->Scrolled(); }
   bool Scrolling() const { return area_->Scrolling(); }

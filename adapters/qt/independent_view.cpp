@@ -29,11 +29,7 @@ void Independent_View::Silence() { body_.on_close = body_.on_placed = {}; }
 void Independent_View::Show_Window() {
   body_.Show_Background(form);
   const QRect wanted = Wanted_Place();
-  if (form.border == Border::Sizable) {
-    body_.resize(wanted.size());
-  } else {
-    body_.setFixedSize(wanted.size());
-  }
+  body_.setFixedSize(wanted.size());
   if (body_.frameGeometry().topLeft() != wanted.topLeft()) body_.move(wanted.topLeft());
   if (body_.isHidden() == form.visible()) body_.setVisible(form.visible());
 }

@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QFont>
 #include <QFontMetrics>
+#include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QWidget>
 
 namespace {
@@ -38,9 +40,21 @@ void Set_Faint_Lettering() {
   QApplication::setPalette(faint);
 }
 
-// Message boxes have the same plain buttons as the program's own windows.
+// Message boxes have the same plain buttons as the program's own windows, and an empty check box can be seen
+// on every desktop: the toolkit's own edge is darker than the ground, which on a dark one leaves nothing.
 struct Plain_Style final : QProxyStyle {
   Plain_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element != PE_IndicatorCheckBox) return;
+    painter->save();
+    painter->setPen(option->palette.color(QPalette::Disabled, QPalette::Text));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+  }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* more) const override {

@@ -13,12 +13,7 @@ Menu_Item_View::Menu_Item_View(Shell& the_shell, Menu_Item& the_item, QWidget& p
     : shell(the_shell), item(the_item) {
   if (item.items.empty() && !item.window_list) {
     action = new QAction(&parent);
-    QObject::connect(action, &QAction::triggered, action, [this] {
-      shell.Deliver([this] {
-        Choose(item);
-        Update();  // the toolkit has flipped a check mark by itself
-      });
-    });
+    QObject::connect(action, &QAction::triggered, action, [this] { Chosen(); });
   } else {
     menu = new QMenu(&parent);
     action = menu->menuAction();
@@ -49,8 +44,18 @@ void Menu_Item_View::Update() {
   action->setChecked(item.checked());
 }
 
+// The frame may be closed while this waits.
+void Menu_Item_View::Chosen() {
+  shell.Deliver([&changes = shell.changes, &item = item] {
+    if (changes.Find(item) == nullptr) return;
+    Choose(item);
+    if (Component_View* view = changes.Find(item))
+      view->Update();  // the toolkit has flipped a check mark by itself
+  });
+}
+
 void Menu_Item_View::Opened() {
-  shell.Deliver([this] { Choose(item); });
+  Chosen();
   if (item.window_list) List_Windows();
 }
 

@@ -29,6 +29,7 @@ struct Menu_Item_View final : Component_View {
   QAction* action = nullptr;  // the menu's own, or a plain one
 
  private:
+  void Chosen();
   void Opened();
   void List_Windows();
 

@@ -1,5 +1,6 @@
 #include "adapters/qt/scroll_view.h"
 
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -9,8 +10,8 @@
 
 namespace {
 
-// A bar with its largest value on top. The toolkit turns its picture round, but not what a press on its
-// arrows and its groove does.
+// A bar with its largest value on top. The toolkit turns its picture round and the arrow keys, but not what a
+// press on its arrows and its groove does, nor the keys of the ends: Home leads to the top.
 struct Turned_Bar final : QScrollBar {
   explicit Turned_Bar(QWidget& parent) : QScrollBar(Qt::Vertical, &parent) {
     setInvertedAppearance(true);
@@ -19,6 +20,11 @@ struct Turned_Bar final : QScrollBar {
   }
 
  private:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Home) return setValue(maximum());
+    if (event->key() == Qt::Key_End) return setValue(minimum());
+    QScrollBar::keyPressEvent(event);
+  }
   void mousePressEvent(QMouseEvent* event) override {
     held_ = true;
     QScrollBar::mousePressEvent(event);

@@ -31,18 +31,6 @@ struct Label_Widget final : QLabel {
   }
 };
 
-int Flags_Of(Alignment alignment) {
-  switch (alignment) {
-    case Alignment::Left:
-      return Qt::AlignLeft;
-    case Alignment::Center:
-      return Qt::AlignHCenter;
-    case Alignment::Right:
-      return Qt::AlignRight;
-  }
-  return Qt::AlignLeft;
-}
-
 QWidget& Make_Text_Widget(const Control& control, QWidget& parent) {
   if (static_cast<const Text_Box&>(control).multi_line) return *new QPlainTextEdit(&parent);
   return *new QLineEdit(&parent);
@@ -59,7 +47,8 @@ void Label_View::Show_Values() {
   const auto& label = static_cast<const Label&>(control);
   auto& shown = static_cast<Label_Widget&>(widget);
   const QString text = With_Line_Feeds(label.caption());
-  int flags = Qt::TextShowMnemonic | Qt::AlignTop | Flags_Of(label.alignment());
+  int flags = Qt::TextShowMnemonic | Qt::AlignTop;
+  flags |= label.alignment() == Alignment::Center ? Qt::AlignHCenter : Qt::AlignLeft;
   if (label.wraps()) flags |= Qt::TextWordWrap;
   if (shown.flags != flags || shown.text() != text) {
     shown.flags = flags;

@@ -1,7 +1,7 @@
 // The Editor's display: the name that it shows, and the font that it shows it in.
+#include "panel/display_font.h"
 #include "panel/editor_fixture.h"
 #include "panel/input_box.h"
-#include "panel/segments.h"
 #include "panel/tone_name.h"
 #include "platform/directories.h"
 #include "windows/input_dlg_window.h"

@@ -79,6 +79,9 @@ TEST_F(Patch_Test, The_Mouse_Moves_Each_Kind_By_Its_Own_Rule) {
                 {range, 0, 4, -33, 66, true, "117 38"},
                 {range, 0, 4, 46, 20, true, "117 38"},  // the cap stays where it was
                 {range, 0, 4, 200, 0, true, "117 58"}});
+  desktop.Drag(Editor.DCO2_Range, {-90});
+  Sent();
+  Expect_Drags({{range, 0, 4, -90, 90, false, "117 58"}});  // after a switch of another window
 }
 
 TEST_F(Patch_Test, A_Step_Out_Of_The_Range_Fails_As_Overflow) {

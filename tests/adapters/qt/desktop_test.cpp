@@ -111,12 +111,13 @@ TEST_F(Desk, The_User_Moves_And_Closes_By_The_Title_Bar) {
   EXPECT_FALSE(panel.Loaded());
 }
 
-TEST_F(Desk, A_Bar_With_The_Largest_On_Top_Leaves_Its_Ends_By_Its_Arrows) {
+TEST_F(Desk, A_Bar_With_The_Largest_On_Top_Leaves_Its_Ends_By_Its_Arrows_And_Finds_Them_By_Keys) {
   Scroll_Bar bar(panel, "Bar");
   bar.Place(0, 0, 16, 150);
   bar.orientation = Orientation::Vertical;
   bar.largest_on_top = true;
   bar.maximum = 99;
+  bar.tab_index = 3;
   bar.on_change = [&] { Note(std::to_string(bar.value())); };
   Show_Windows();
   QWidget& widget = Widget("Bar");
@@ -127,7 +128,9 @@ TEST_F(Desk, A_Bar_With_The_Largest_On_Top_Leaves_Its_Ends_By_Its_Arrows) {
     Press(widget, place);
     Release(widget, place);
   }
-  EXPECT_EQ(log, (Texts{"1", "98"}));
+  Set_Focus(bar);
+  for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End}) Type(key);
+  EXPECT_EQ(log, (Texts{"1", "98", "99", "0"}));
 }
 
 TEST_F(Desk, A_Frame_Marks_The_Focus_Where_Nothing_Blinks) {
