@@ -65,7 +65,7 @@ TEST_F(Tone_Commands, Only_A_Dump_Of_67_Bytes_Ends_The_Wait) {
     EXPECT_TRUE(service.Deliver(Dump(size)));
     EXPECT_EQ(Tone[58], last) << size;
     EXPECT_EQ(Receive_On, 1);
-    EXPECT_EQ(service.Free_Buffers(), 4) << "the buffer goes back";
+    EXPECT_EQ(service.buffers.size(), 4U) << "the buffer goes back";
   }
   EXPECT_TRUE(service.Deliver(Dump(67)));
   EXPECT_EQ(Tone_Name_Str, "AAAAAAAAAA");
@@ -76,17 +76,16 @@ TEST_F(Tone_Commands, Only_A_Dump_Of_67_Bytes_Ends_The_Wait) {
 }
 
 TEST_F(Tone_Commands, A_Failed_Open_Changes_Nothing_And_A_Vanished_Input_Closes) {
-  using Row = std::pair<Midi_Operation, const char*>;
-  for (const auto& [operation, box] : {Row{Midi_Operation::In_Open, "vbMidiInOpen: Text of 4"},
-                                       Row{Midi_Operation::In_Prepare, "vbMidiInPrepareHeader: Text of 4"},
-                                       Row{Midi_Operation::In_Add_Buffer, "vbMidiInAddBuffer: Text of 4"}}) {
+  for (const auto& [operation, told] : {std::pair{"In_Open", "vbMidiInOpen"},
+                                        {"In_Prepare", "vbMidiInPrepareHeader"},
+                                        {"In_Add_Buffer", "vbMidiInAddBuffer"}}) {
     service.Fail_Next(operation, Midi_Allocated);
-    desktop.Expect_Box(Answer::Ok, box);
+    desktop.Expect_Box(Answer::Ok, told + std::string(": Text of 4"));
     Tone_Receive_Toggle();
     EXPECT_FALSE(Receive_On == 1 || service.In_Is_Open());
   }
   Tone_Receive_Toggle();
-  service.Fail_Next(Midi_Operation::In_Reset, Midi_Invalid_Handle);
+  service.Fail_Next("In_Reset", Midi_Invalid_Handle);
   desktop.Expect_Box(Answer::Ok, "vbMidiInClose: Text of 5");
   Tone_Receive_Toggle();
   EXPECT_EQ(MIDI_In_Handle + Receive_On, -1);

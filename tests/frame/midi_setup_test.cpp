@@ -8,8 +8,7 @@ namespace {
 
 struct Setup : Whole_Program {
   Setup() {
-    service.Outputs({"One", "Two"});
-    service.Inputs({"One", "Two"});
+    service.outputs = service.inputs = {"One", "Two"};
     Start("[MIDI]\nInput=Two\nOutput=Two\nChannel=3\n");
   }
   void OK() {
@@ -25,7 +24,7 @@ struct Setup : Whole_Program {
 
 TEST_F(Setup, Stops_The_Sequencer_Keeps_MIDI_Shut_And_Finds_What_Was_Plugged_In) {
   Play();
-  service.Outputs({"New", "One", "Two"});
+  service.outputs = {"New", "One", "Two"};
   Menu_MIDI_Setup();
   EXPECT_EQ(Seq_Running, Flag_Off);
   EXPECT_FALSE(service.Out_Is_Open() || MELVOR.Menu_MIDI.enabled() || Editor.enabled());
@@ -67,19 +66,6 @@ TEST_F(Setup, An_Absent_Choice_Stops_OK_With_Its_Number) {
   User_Selected(MIDI_Setup.Output_Devices, 1);
   OK();
   EXPECT_FALSE(MIDI_Setup.Loaded());
-}
-
-TEST_F(Setup, Enable_Locks_And_Frees_What_Depends_On_It) {
-  Menu_MIDI_Setup();
-  for (const bool on : {false, true}) {
-    User_Checked(MIDI_Setup.Enable, on);
-    EXPECT_EQ(MIDI_Enabled == 1, on);
-    for (const Control* control :
-         std::initializer_list<const Control*>{&MIDI_Setup.Input_Devices, &MIDI_Setup.Output_Devices,
-                                               &MIDI_Setup.AutoSend, &MIDI_Setup.AutoPlay}) {
-      EXPECT_EQ(control->enabled(), on) << control->name;
-    }
-  }
 }
 
 }  // namespace

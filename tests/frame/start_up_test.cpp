@@ -1,6 +1,8 @@
 // The frame: how the program starts and closes.
 #include "core/sysex.h"
+#include "frame/help.h"
 #include "frame/whole_program.h"
+#include "windows/help_window.h"
 #include "windows/sequencer_window.h"
 
 namespace {
@@ -12,19 +14,15 @@ TEST_F(Frame, A_Configured_Start_Shows_The_Editor_And_Sends_Nothing) {
   EXPECT_EQ(Active_Form(), &Editor);
   EXPECT_EQ(Tone[13], 56);
   EXPECT_TRUE(Tone_Saved == Flag_True && Seq_Saved == Flag_On);
-  EXPECT_TRUE(service.Sent().empty());
+  EXPECT_TRUE(service.sent.empty());
   EXPECT_FALSE(service.Out_Is_Open());
 }
 
-TEST_F(Frame, Only_Two_Densities_Are_Known) {
+TEST_F(Frame, A_Density_That_Is_Not_Known_Ends_The_Start) {
   desktop.pixels_per_inch = 144;
   desktop.Expect_Box(Answer::Ok);
   EXPECT_FALSE(Start());
   EXPECT_TRUE(desktop.Last_Box().starts_with("Unsupported system font size: 144 ppi"));
-  EXPECT_FALSE(Editor.Loaded());
-  desktop.pixels_per_inch = 120;
-  EXPECT_TRUE(Start());
-  EXPECT_EQ(Editor.width(), 528 * 12);
 }
 
 TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Load) {
@@ -36,8 +34,7 @@ TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Loa
 }
 
 TEST_F(Frame, Without_Any_Device_The_Program_Runs_On_Its_Own) {
-  service.Outputs({});
-  service.Inputs({});
+  service.outputs = service.inputs = {};
   desktop.Expect_Box(Answer::Ok, "No MIDI output device installed. MIDI functions disabled");
   desktop.Expect_Box(Answer::Ok, "No MIDI input device installed. MIDI functions disabled");
   ASSERT_TRUE(Start());
@@ -64,7 +61,7 @@ TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
   for (const Row& row : {Row{Answer::Cancel, Answer::No, false}, Row{Answer::No, Answer::Cancel, false},
                          Row{Answer::No, Answer::No, true}}) {
     ASSERT_TRUE(Start());
-    desktop.Choose_Menu(MELVOR.Menu_MIDI_Seq);
+    Choose(MELVOR.Menu_MIDI_Seq);
     Tone_Saved = Flag_False;
     Seq_Saved = Flag_Off;
     desktop.Expect_Box(row.tone, "Save actual TONE first?");
@@ -85,31 +82,26 @@ TEST_F(Frame, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
   EXPECT_EQ(service.Take_Hex(), std::vector<std::string>{"B0 7B 00"});
 }
 
-TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {
+TEST_F(Frame, Help_Holds_The_Program_Until_It_Closes) {
   ASSERT_TRUE(Start());
-  struct Row {
-    int density, screen_height, width, height;
-  };
-  for (const Row& row : {Row{96, 1024, 540, 506}, Row{120, 1024, 540, 516}, Row{120, 480, 556, 440}}) {
-    System_PPI = desktop.pixels_per_inch = row.density;
-    desktop.screen.height = row.screen_height;
-    Seq_Left = 500;
-    desktop.Expect_Box(Answer::Yes, "Do you really want to RESET the window settings?");
-    desktop.Choose_Menu(MELVOR.Menu_Windows_Reset);
-    EXPECT_EQ(MELVOR.width() / Twips_Per_Pixel(), row.width);
-    EXPECT_EQ(MELVOR.height() / Twips_Per_Pixel(), row.height);
-    EXPECT_EQ(Seq_Left, 1);
-  }
+  Set_Focus(Editor.VCF_Res);
+  Menu_Help_Howto_Click();
+  EXPECT_FALSE(Editor.enabled() || MELVOR.Menu_File.enabled());
+  User_Clicked(Help.Cmd_Search);
+  EXPECT_TRUE(Help.Frame_Search.visible());
+  desktop.Key(Key::Escape);
+  EXPECT_FALSE(Help.Loaded());
+  EXPECT_EQ(Focused_Control(), &Editor.VCF_Res);
 }
 
 TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
   ASSERT_TRUE(Start());
-  service.Fail_Next(Midi_Operation::Out_Open, 68, 99);
+  service.Fail_Next("Out_Open", 68, 99);
   End_Without_Questions();
   EXPECT_FALSE(MELVOR.Loaded());
 
   desktop.quit = false;
-  desktop.on_other_box = [](const Shown_Box&) {
+  desktop.on_other_box = [] {
     End_Without_Questions();
     return Answer::Ok;
   };

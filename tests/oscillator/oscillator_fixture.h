@@ -1,9 +1,6 @@
 // The program with an open oscillator window.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "oscillator/curve.h"
 #include "oscillator/playback.h"
 #include "oscillator/window.h"

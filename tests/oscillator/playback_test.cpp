@@ -4,8 +4,6 @@
 
 namespace {
 
-using Texts = std::vector<std::string>;
-
 TEST_F(Oscillator_Test, Each_Target_Gets_Its_Own_Message) {
   Texts want;
   for (const char* parameter : {"0E", "0F", "14", "15", "16", "2F", "30", "31", "32", "34", "35", "36",

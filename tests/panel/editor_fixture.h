@@ -2,15 +2,10 @@
 // otherwise.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "panel/editor.h"
 #include "support/program.h"
 #include "windows/editor_window.h"
 #include "windows/focus_mark.h"
-
-using Messages = std::vector<std::string>;
 
 inline std::string Numbers(std::initializer_list<int> numbers) {
   std::string text;
@@ -78,7 +73,7 @@ struct Editor_Fixture : Program {
       EXPECT_EQ(Byte(row.index), row.after);
       EXPECT_EQ(Place_Of(*Active_Ctl), row.place);
       EXPECT_EQ(Display(), row.shown);
-      EXPECT_EQ(Sent(), Messages{Message(row.index, row.after)});
+      EXPECT_EQ(Sent(), Texts{Message(row.index, row.after)});
       EXPECT_EQ(Tone_Saved, Flag_False);
     }
   }
@@ -92,7 +87,7 @@ struct Editor_Fixture : Program {
       desktop.Move(row.element, row.x, row.y);
       EXPECT_EQ(Byte(row.index), row.after);
       EXPECT_EQ(Place_Of(*Active_Ctl), row.place);
-      EXPECT_EQ(Sent(), row.is_sent ? Messages{Message(row.index, row.after)} : Messages{});
+      EXPECT_EQ(Sent(), row.is_sent ? Texts{Message(row.index, row.after)} : Texts{});
       EXPECT_EQ(Tone_Saved, Flag_False);
     }
   }

@@ -13,7 +13,7 @@ TEST_F(Editor_Test, Tab_Walks_The_Elements_Each_With_Its_Parameter) {
     ASSERT_NE(Focused_Control(), nullptr);
     Sent();
     desktop.Key(Key::Home);
-    EXPECT_EQ(Sent(), Messages{Message(parameter, Tone[parameter])}) << Focused_Control()->name;
+    EXPECT_EQ(Sent(), Texts{Message(parameter, Tone[parameter])}) << Focused_Control()->name;
     desktop.Key(Key::Tab);
   }
   EXPECT_EQ(Focused_Control(), &Editor.ED_Seq_Start);

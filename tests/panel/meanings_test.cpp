@@ -1,6 +1,5 @@
 #include "panel/editor_fixture.h"
 #include "panel/patch.h"
-#include "platform/input.h"
 #include "windows/patch_window.h"
 
 namespace {
@@ -69,7 +68,7 @@ TEST_F(Meanings, A_Number_Is_Reached_By_Keys) {
            {Editor.DCO2_FTune, 11, "14 4E", 5},
        }) {
     User_Turned(row.element, row.number);
-    const Messages sent = Sent();
+    const Texts sent = Sent();
     EXPECT_EQ(sent.size(), row.messages) << row.element.name;
     EXPECT_EQ(sent.empty() ? "" : sent.back(),
               row.last.empty() ? "" : "F0 41 36 00 21 20 01 " + row.last + " F7");
@@ -83,7 +82,7 @@ TEST_F(Meanings, A_Locked_Window_Stays_As_It_Is) {
   User_Turned(Editor.VCF_CutoffF, 50);
   User_Stepped(Editor.VCF_CutoffF, true);
   User_Pressed(Editor.VCF_CutoffF, {Left_Button, 0, 8, 8});
-  EXPECT_EQ(Sent(), Messages());
+  EXPECT_EQ(Sent(), Texts());
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ TEST_F(Patch_Test, The_Mouse_Moves_Each_Kind_By_Its_Own_Rule) {
   Have(5, 10);
   for (Picture_Box* element : {&depth, &range, &Patch.UDTune, &Patch.Portamento_Switch})
     desktop.Press(*element);
-  EXPECT_EQ(Sent(), (Messages{Message(5, 10), Message(6, 64), Message(2, 64)}));
+  EXPECT_EQ(Sent(), (Texts{Message(5, 10), Message(6, 64), Message(2, 64)}));
   Expect_Drags({{depth, 5, 4, -20.5F, 30, true, "86 90"},
                 {depth, 5, 4, 200, 0, true, "86 108"},
                 {Patch.UDTune, 6, 10, 4, 74, true, "14 5"},  // counts from the left edge
@@ -94,14 +94,14 @@ TEST_F(Patch_Test, Lights_Are_Chosen_By_Click_And_Key) {
   std::size_t item = 0;
   for (const int value : {0, 1, 2, 4, 5, 6}) {
     desktop.Click(Patch.Key_Mode[item]);
-    EXPECT_EQ(Sent(), Messages{Message(3, value)});
+    EXPECT_EQ(Sent(), Texts{Message(3, value)});
     EXPECT_EQ(Lit(Patch.Key_Mode), std::to_string(item++));
   }
   for (const int key : {Key::Down, Key::Page_Up}) desktop.Key(key);
-  EXPECT_EQ(Sent(), (Messages{Message(3, 6), Message(3, 5)})) << "the last item again";
+  EXPECT_EQ(Sent(), (Texts{Message(3, 6), Message(3, 5)})) << "the last item again";
   Set_Focus(Patch.After_Touch[0]);
   for (const int key : {Key::Up, Key::Up, Key::Page_Up, Key::Up, Key::Down}) desktop.Key(key);
-  EXPECT_EQ(Sent(), (Messages{Message(4, 1), Message(4, 2), Message(4, 4), Message(4, 4), Message(4, 2)}));
+  EXPECT_EQ(Sent(), (Texts{Message(4, 1), Message(4, 2), Message(4, 4), Message(4, 4), Message(4, 2)}));
   for (int step = 0; step < 4; ++step) desktop.Key(Key::Page_Down);
   EXPECT_EQ(Sent().back(), Message(4, 0));
   EXPECT_EQ(Lit(Patch.After_Touch) + Lit(Patch.Key_Mode), "04") << "the other group keeps its light";

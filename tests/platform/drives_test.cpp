@@ -1,7 +1,5 @@
 #include "platform/drives.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/directories.h"
 #include "support/temporary_root.h"
 

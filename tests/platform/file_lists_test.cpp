@@ -1,7 +1,5 @@
 #include "platform/file_lists.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/form.h"
 #include "support/temporary_root.h"
 

@@ -1,8 +1,6 @@
 // Windows: how they load, change and go, and what the user's keys and mouse do in them.
 #include "platform/form.h"
 
-#include <gtest/gtest.h>
-
 #include "support/scripted_desktop.h"
 
 namespace {

@@ -1,6 +1,4 @@
 // Settings in their file.
-#include <gtest/gtest.h>
-
 #include "platform/profile_file.h"
 #include "support/temporary_root.h"
 

@@ -1,6 +1,4 @@
 // Numbers and texts: how they are rounded, read, compared and matched.
-#include <gtest/gtest.h>
-
 #include <climits>
 #include <cmath>
 

@@ -1,4 +1,3 @@
-#include <set>
 
 #include "platform/chance.h"
 #include "sequencer/sequencer_fixture.h"
@@ -6,7 +5,6 @@
 namespace {
 
 using Steps = std::vector<int>;
-using Texts = std::vector<std::string>;
 
 TEST_F(Sequencer_Test, A_Tick_Sends_All_Rows_From_The_Top_Whatever_They_Hold) {
   MIDI_Channel = 16;
@@ -24,8 +22,8 @@ TEST_F(Sequencer_Test, A_Tick_Sends_All_Rows_From_The_Top_Whatever_They_Hold) {
 TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Silencing) {
   Seq_Saved = Flag_Off;
   desktop.Click(Editor.ED_Seq_Start);
-  service.Fail_Next(Midi_Operation::Out_Short, 5, 99);
-  desktop.on_other_box = [](const Shown_Box&) { return Answer::Ok; };
+  service.Fail_Next("Out_Short", 5, 99);
+  desktop.on_other_box = [] { return Answer::Ok; };
   desktop.Advance_ms(250);
   EXPECT_EQ(desktop.boxes.size(), 2U);
   EXPECT_EQ(MIDI_Enabled, 0);

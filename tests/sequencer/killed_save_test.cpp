@@ -10,7 +10,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
-#include <map>
 
 #include "core/tone_files.h"
 #include "platform/files.h"
@@ -95,7 +94,7 @@ using Files = std::map<std::string, std::string>;
 
 struct Killed_Save : Sequencer_Test {
   Killed_Save() {
-    desktop.on_other_box = [](const Shown_Box&) { return Answer::Ok; };
+    desktop.on_other_box = [] { return Answer::Ok; };
     Tone_File = Seq_File = INI_File = "C:\\FILE";  // what is there keeps its own spelling
   }
   ~Killed_Save() override { INI_File.clear(); }

@@ -1,13 +1,10 @@
 // The built-in instrument: what a byte stream does to it, and its place among the devices.
 #include "adapters/instrument/instrument.h"
 
-#include <gtest/gtest.h>
-
 #include <numeric>
 
 #include "adapters/midi/service.h"
 #include "support/midi_contract.h"
-#include "support/recording_service.h"
 
 namespace {
 
@@ -95,14 +92,15 @@ TEST(Built_In, Transmits_Its_Tone_To_Who_Starts_To_Listen) {
   Post_Desktop desktop;
   Instrument::Built_In instrument;
   Midi::Service service({&instrument});
-  std::int32_t handle = -1;
-  ASSERT_EQ(service.Out_Open(handle, Find_Output(service, "Built-in JX-8P")), Midi_Ok);
+  const std::int32_t handle = Open_Output(service, "Built-in JX-8P");
   const Byte_String dump = Dump("F0 41 35 09 21 20 01") + "\xF7";
   ASSERT_EQ(Send_Long(service, handle, dump), Midi_Ok);
   ASSERT_TRUE(Await([&] { return instrument.Values(Tone) == Counting_Tone(); }));
-  Test_Input input(service, Find_Input(service, "Built-in JX-8P"));
-  ASSERT_TRUE(desktop.Run_Until([&] { return !input.received.empty(); }));
-  EXPECT_EQ(Hex_Text(input.received[0]), Hex_Text(dump));
+  Test_Input input(service, "Built-in JX-8P");
+  EXPECT_TRUE(Await([&] {
+    desktop.Run_Posts();
+    return input.received == Texts{dump};
+  }));
 }
 
 }  // namespace
