@@ -48,12 +48,11 @@ TEST_F(Display_Test, Cancel_Changes_Nothing_And_No_Entry_Opens_By_Tab_Or_Beside_
 }
 
 TEST_F(Display_Test, The_Prompt_Waits_For_Its_Answer) {
-  const std::vector<std::pair<std::function<void()>, std::string>> rows{
-      {[&] { desktop.Key(Key::Enter, 0, 13); }, "second"},
-      {[&] { User_Closes(Input_Dlg); }, ""},
-      {[&] { Unload(MELVOR); }, ""}};  // the end of the program ends the wait
   Show(MELVOR);
-  for (const auto& [answer, result] : rows) {
+  using Row = std::pair<std::function<void()>, const char*>;
+  for (const auto& [answer, result] :
+       {Row{[&] { desktop.Key(Key::Enter, 0, 13); }, "second"}, Row{[] { User_Closes(Input_Dlg); }, ""},
+        Row{[] { Unload(MELVOR); }, ""}}) {  // the end of the program ends the wait
     desktop.At_Wait([&] {
       desktop.Type(Input_Dlg.Input_Textbox, "second");
       answer();

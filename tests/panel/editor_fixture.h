@@ -12,11 +12,7 @@ inline std::string Numbers(std::initializer_list<int> numbers) {
   for (const int number : numbers) text += (text.empty() ? "" : " ") + std::to_string(number);
   return text;
 }
-// Left and top.
-template <class Form_Or_Control>
-std::string Place_Of(const Form_Or_Control& thing) {
-  return Numbers({thing.left(), thing.top()});
-}
+inline std::string Place_Of(const Control& control) { return Numbers({control.left(), control.top()}); }
 
 struct Key_Row {
   Picture_Box& element;
@@ -63,32 +59,31 @@ struct Editor_Fixture : Program {
   }
   std::string Display() { return Editor.Tone_Name.text(); }
 
+  void Expect(int index, int value, const std::string& place, bool is_sent) {
+    EXPECT_EQ(Byte(index), value);
+    EXPECT_EQ(Place_Of(*Active_Ctl), place);
+    EXPECT_EQ(Sent(), is_sent ? Texts{Message(index, value)} : Texts{});
+    EXPECT_EQ(Tone_Saved, Flag_False);
+  }
   // Each row starts from its own byte, and every key sends.
   void Expect_Keys(const std::vector<Key_Row>& rows) {
     for (const Key_Row& row : rows) {
-      SCOPED_TRACE(std::string(row.element.name) + " from " + Numbers({row.before}) + " by " +
-                   Numbers({row.key}));
+      SCOPED_TRACE(testing::Message() << row.element.name << " " << row.before << " " << row.key);
       Have(row.index, row.before);
       Key_On(row.element, row.key);
-      EXPECT_EQ(Byte(row.index), row.after);
-      EXPECT_EQ(Place_Of(*Active_Ctl), row.place);
+      Expect(row.index, row.after, row.place, true);
       EXPECT_EQ(Display(), row.shown);
-      EXPECT_EQ(Sent(), Texts{Message(row.index, row.after)});
-      EXPECT_EQ(Tone_Saved, Flag_False);
     }
   }
   // Each row goes on from the one before; the move is from the place of the press or of the last move.
   void Expect_Drags(const std::vector<Drag_Row>& rows) {
     for (const Drag_Row& row : rows) {
-      SCOPED_TRACE(std::string(row.element.name) + " to " + std::to_string(row.after));
+      SCOPED_TRACE(testing::Message() << row.element.name << " to " << row.after);
       Set_Focus(row.element);
       Tone_Saved = Flag_True;
       desktop.Move(row.element, 90, 90, 0);  // without a button it is nothing
       desktop.Move(row.element, row.x, row.y);
-      EXPECT_EQ(Byte(row.index), row.after);
-      EXPECT_EQ(Place_Of(*Active_Ctl), row.place);
-      EXPECT_EQ(Sent(), row.is_sent ? Texts{Message(row.index, row.after)} : Texts{});
-      EXPECT_EQ(Tone_Saved, Flag_False);
+      Expect(row.index, row.after, row.place, row.is_sent);
     }
   }
 };

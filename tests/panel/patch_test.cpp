@@ -39,8 +39,6 @@ TEST_F(Patch_Test, Only_The_JX8P_Has_A_Patch_Window) {
   Menu_Tone_Patch();
   EXPECT_EQ(Active_Ctl, &Patch.Portamento_Time);
   EXPECT_TRUE(Sent().empty()) << "showing sends nothing";
-  EXPECT_EQ(Patch.Portamento_Switch.spoken_value(), "off");
-  EXPECT_FALSE(Patch.Key_Mode[1].is_on());
 }
 
 TEST_F(Patch_Test, Keys_Move_Each_Kind_By_Its_Own_Rule) {
@@ -83,11 +81,9 @@ TEST_F(Patch_Test, The_Mouse_Moves_Each_Kind_By_Its_Own_Rule) {
 
 TEST_F(Patch_Test, A_Step_Out_Of_The_Range_Fails_As_Overflow) {
   Patch.Pitch_Bend_Range.top = 28;  // as a drag that left the cap can leave it
-  desktop.Expect_Box(Answer::Ok);
+  desktop.Expect_Box(Answer::Ok, "Error 6: Overflow");
   Key_On(Patch.Pitch_Bend_Range, Key::Down);
-  EXPECT_NE(desktop.Last_Box().find("6"), std::string::npos) << desktop.Last_Box();
   EXPECT_TRUE(Sent().empty());
-  EXPECT_EQ(Byte(0), 0);
 }
 
 TEST_F(Patch_Test, Lights_Are_Chosen_By_Click_And_Key) {

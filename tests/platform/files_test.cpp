@@ -19,23 +19,18 @@ struct Files_Test : testing::Test {
 TEST_F(Files_Test, Every_Failure_Has_Its_Number_And_Changes_Nothing) {
   root.Make("full/inner");
   ASSERT_EQ(mkfifo((root.host / "pipe").c_str(), 0666), 0);
-  struct Row {
-    const char* what;
-    std::function<void()> call;
-    int number;
+  const std::pair<std::function<void()>, int> rows[] = {
+      {[] { File_Read("C:\\none"); }, 53},
+      {[] { File_Read("C:\\full"); }, 75},
+      {[] { File_Read("C:\\pipe"); }, 75},  // that nobody feeds
+      {[] { File_Write("C:\\none\\x", "new"); }, 76},
+      {[] { File_Write("C:\\full", "new"); }, 75},
+      {[] { File_Write("C:\\pipe", "new"); }, 75},
+      {[] { File_Write("C:\\" + std::string(300, 'n'), "new"); }, 52},
+      {[] { File_Delete("C:\\none"); }, 53},
+      {[] { Directory_Remove("C:\\full"); }, 75},
   };
-  const Row rows[] = {
-      {"read what is not there", [] { File_Read("C:\\none"); }, 53},
-      {"read a directory", [] { File_Read("C:\\full"); }, 75},
-      {"read a pipe that nobody feeds", [] { File_Read("C:\\pipe"); }, 75},
-      {"write into a missing directory", [] { File_Write("C:\\none\\x", "new"); }, 76},
-      {"write over a directory", [] { File_Write("C:\\full", "new"); }, 75},
-      {"write over a pipe", [] { File_Write("C:\\pipe", "new"); }, 75},
-      {"write too long a name", [] { File_Write("C:\\" + std::string(300, 'n'), "new"); }, 52},
-      {"delete what is not there", [] { File_Delete("C:\\none"); }, 53},
-      {"remove a full directory", [] { Directory_Remove("C:\\full"); }, 75},
-  };
-  for (const Row& row : rows) EXPECT_EQ(Raised(row.call), row.number) << row.what;
+  for (const auto& row : rows) EXPECT_EQ(Raised(row.first), row.second) << &row - rows;
   EXPECT_EQ(root.Names(), (Name_Set{"full", "pipe"}));
   EXPECT_EQ(root.Names("full"), Name_Set{"inner"});
   EXPECT_EQ(Host_Error_Number(ENOSPC, "/file"), 61);

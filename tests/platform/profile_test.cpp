@@ -29,14 +29,14 @@ TEST_F(Profile_Test, Values_Are_Found_Among_Noise) {
            "[unclosed\n"
            "After=still here\n"
            "[Grüße]\nEnd=no line end");
-  struct Row {
-    std::string section, key, value;
-  };
-  const Row rows[] = {{"First", "kEY", "value"},       {"First", ";Comment", "(default)"},
-                      {"Midi", "Input", "  quoted  "}, {"MIDI", "Equals", "a=b;c"},
-                      {"MIDI", "After", "still here"}, {"None", "Key", "(default)"},
-                      {"grüße", "end", "no line end"}};
-  for (const Row& row : rows) EXPECT_EQ(Get(row.section, row.key), row.value) << row.key;
+  for (const auto& [section, key, value] : {std::tuple{"First", "kEY", "value"},
+                                            {"First", ";Comment", "(default)"},
+                                            {"Midi", "Input", "  quoted  "},
+                                            {"MIDI", "Equals", "a=b;c"},
+                                            {"MIDI", "After", "still here"},
+                                            {"None", "Key", "(default)"},
+                                            {"grüße", "end", "no line end"}})
+    EXPECT_EQ(Get(section, key), value) << key;
 }
 
 TEST_F(Profile_Test, A_Write_Changes_Its_Value_And_No_Other_Byte) {

@@ -8,14 +8,9 @@
 
 namespace {
 
-using Instrument::List_Id;
 using Instrument::Parameter_List;
 
-constexpr List_Id Tone{0x21, 0x20, 1};
-constexpr List_Id Patch{0x21, 0x30, 1};
-constexpr List_Id Tone_A{0x24, 0x20, 1};
-constexpr List_Id Tone_B{0x24, 0x20, 2};
-constexpr List_Id Patch_MKS70{0x24, 0x30, 1};
+constexpr Instrument::List_Id Tone{0x21, 0x20, 1};
 
 // 1, 2, ... 59
 Parameter_List Counting_Tone() {
@@ -42,23 +37,6 @@ TEST(Receiver, Takes_The_59_Values_Of_A_Dump_Whatever_Follows_Them_And_Nothing_O
   EXPECT_EQ(receiver.memory.Values(Tone), Instrument::Receiver().memory.Values(Tone));
 }
 
-TEST(Receiver, A_Head_Says_Which_List_Is_Meant) {
-  constexpr List_Id None{0, 0, 0};
-  const std::pair<const char*, List_Id> rows[] = {
-      {"36 00 21 20 01", Tone},   {"36 00 21 30 01", Patch},       {"36 0F 24 20 01", Tone_A},
-      {"36 00 24 20 02", Tone_B}, {"36 00 24 30 01", Patch_MKS70}, {"34 00 21 20 01", None},
-      {"36 00 22 20 01", None},   {"36 00 21 20 02", None},
-  };
-  const Instrument::Receiver fresh;
-  for (const auto& [head, meant] : rows) {
-    Instrument::Receiver receiver;
-    receiver.Take(Bytes_Of("F0 41 " + std::string(head) + " 03 09 F7"));
-    for (const List_Id& list : {Tone, Patch, Tone_A, Tone_B, Patch_MKS70}) {
-      EXPECT_EQ(receiver.memory.Values(list)[3], list == meant ? 9 : fresh.memory.Values(list)[3]) << head;
-    }
-  }
-}
-
 TEST(Receiver, A_Parameter_Message_Holds_Pairs_Up_To_Its_End) {
   Instrument::Receiver receiver;
   // No F7: the next status byte ends it, and its lone last byte means nothing.
@@ -66,8 +44,8 @@ TEST(Receiver, A_Parameter_Message_Holds_Pairs_Up_To_Its_End) {
   EXPECT_EQ(receiver.memory.Values(Tone)[0], 'T');
   EXPECT_EQ(receiver.memory.Values(Tone)[15], 0);
   EXPECT_TRUE(receiver.Sounds(0, 0x3C));
-  // A clock byte ends nothing; a number that the list does not have is passed over.
-  receiver.Take(Bytes_Of("F0 41 36 00 21 20 01 0B F8 7F 3B 11 0C 22 F7"));
+  // A clock byte ends nothing; a number that the list does not have is passed over, and so is another list.
+  receiver.Take(Bytes_Of("F0 41 36 00 21 20 01 0B F8 7F 3B 11 0C 22 F7 F0 41 36 00 21 30 01 0B 00 F7"));
   EXPECT_EQ(receiver.memory.Values(Tone)[11], 0x7F);
   EXPECT_EQ(receiver.memory.Values(Tone)[12], 0x22);
 }
