@@ -28,9 +28,7 @@ TEST_F(Tone_Commands, A_Changed_Tone_Is_Asked_About_And_Cancel_Ends_The_Command)
   for (const auto command : {Tone_New, Tone_Receive}) {
     desktop.Expect_Box(Answer::Cancel, "Save actual TONE first?");
     command();
-    EXPECT_EQ(Tone[34], 9);
-    EXPECT_EQ(Tone_Saved, Flag_False);
-    EXPECT_FALSE(service.In_Is_Open());
+    EXPECT_TRUE(Tone[34] == 9 && Tone_Saved == Flag_False && !service.In_Is_Open());
   }
   desktop.Expect_Box(Answer::No, "Save actual TONE first?");
   Tone_New();
@@ -70,8 +68,7 @@ TEST_F(Tone_Commands, Only_A_Dump_Of_67_Bytes_Ends_The_Wait) {
   EXPECT_TRUE(service.Deliver(Dump(67)));
   EXPECT_EQ(Tone_Name_Str, "AAAAAAAAAA");
   EXPECT_EQ(Autosend - Receive_On, 1);
-  EXPECT_TRUE(MELVOR.Menu_File.enabled());
-  EXPECT_FALSE(service.In_Is_Open());
+  EXPECT_TRUE(MELVOR.Menu_File.enabled() && !service.In_Is_Open());
   EXPECT_TRUE(Sent().empty()) << "what came is not echoed";
 }
 

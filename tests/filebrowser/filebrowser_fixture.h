@@ -93,7 +93,6 @@ struct Filebrowser_Test : Program {
     desktop.Type(File_Dlg.FD_FileName, text);
     desktop.Key(Key::Enter);
   }
-  std::string Text() const { return File_Dlg.FD_FileName.text(); }
 
   // What went over the wire: a tone dump as "dump" and the first letter of its name.
   std::string Heard() {

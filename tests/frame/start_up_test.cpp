@@ -18,13 +18,6 @@ TEST_F(Frame, A_Configured_Start_Shows_The_Editor_And_Sends_Nothing) {
   EXPECT_FALSE(service.Out_Is_Open());
 }
 
-TEST_F(Frame, A_Density_That_Is_Not_Known_Ends_The_Start) {
-  desktop.pixels_per_inch = 144;
-  desktop.Expect_Box(Answer::Ok);
-  EXPECT_FALSE(Start());
-  EXPECT_TRUE(desktop.Last_Box().starts_with("Unsupported system font size: 144 ppi"));
-}
-
 TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Load) {
   desktop.Expect_Box(Answer::Ok, "MIDI output device not configured - starting MIDI setup.");
   desktop.Expect_Box(Answer::Ok, "MIDI input device (Gone) not available - starting MIDI setup.");
@@ -54,19 +47,16 @@ TEST_F(Frame, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
 }
 
 TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
-  struct Row {
-    Answer tone, sequence;
-    bool closes;
-  };
-  for (const Row& row : {Row{Answer::Cancel, Answer::No, false}, Row{Answer::No, Answer::Cancel, false},
-                         Row{Answer::No, Answer::No, true}}) {
+  for (const auto& [tone, sequence, closes] : {std::tuple{Answer::Cancel, Answer::No, false},
+                                               {Answer::No, Answer::Cancel, false},
+                                               {Answer::No, Answer::No, true}}) {
     ASSERT_TRUE(Start());
     Choose(MELVOR.Menu_MIDI_Seq);
     Tone_Saved = Flag_False;
     Seq_Saved = Flag_Off;
-    desktop.Expect_Box(row.tone, "Save actual TONE first?");
-    desktop.Expect_Box(row.sequence, "Save actual SEQUENCE first?");
-    EXPECT_EQ(Unload(MELVOR), row.closes);
+    desktop.Expect_Box(tone, "Save actual TONE first?");
+    desktop.Expect_Box(sequence, "Save actual SEQUENCE first?");
+    EXPECT_EQ(Unload(MELVOR), closes);
     EXPECT_FALSE(Sequencer.Loaded());
   }
   EXPECT_TRUE(desktop.quit);

@@ -1,8 +1,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <functional>
-
 #include "platform/files.h"
 #include "platform/host_files.h"
 #include "support/temporary_root.h"
@@ -19,18 +17,15 @@ struct Files_Test : testing::Test {
 TEST_F(Files_Test, Every_Failure_Has_Its_Number_And_Changes_Nothing) {
   root.Make("full/inner");
   ASSERT_EQ(mkfifo((root.host / "pipe").c_str(), 0666), 0);
-  const std::pair<std::function<void()>, int> rows[] = {
-      {[] { File_Read("C:\\none"); }, 53},
-      {[] { File_Read("C:\\full"); }, 75},
-      {[] { File_Read("C:\\pipe"); }, 75},  // that nobody feeds
-      {[] { File_Write("C:\\none\\x", "new"); }, 76},
-      {[] { File_Write("C:\\full", "new"); }, 75},
-      {[] { File_Write("C:\\pipe", "new"); }, 75},
-      {[] { File_Write("C:\\" + std::string(300, 'n'), "new"); }, 52},
-      {[] { File_Delete("C:\\none"); }, 53},
-      {[] { Directory_Remove("C:\\full"); }, 75},
-  };
-  for (const auto& row : rows) EXPECT_EQ(Raised(row.first), row.second) << &row - rows;
+  EXPECT_EQ(Raised([] { File_Read("C:\\none"); }), 53);
+  EXPECT_EQ(Raised([] { File_Read("C:\\full"); }), 75);
+  EXPECT_EQ(Raised([] { File_Read("C:\\pipe"); }), 75) << "that nobody feeds";
+  EXPECT_EQ(Raised([] { File_Write("C:\\none\\x", "new"); }), 76);
+  EXPECT_EQ(Raised([] { File_Write("C:\\full", "new"); }), 75);
+  EXPECT_EQ(Raised([] { File_Write("C:\\pipe", "new"); }), 75);
+  EXPECT_EQ(Raised([] { File_Write("C:\\" + std::string(300, 'n'), "new"); }), 52);
+  EXPECT_EQ(Raised([] { File_Delete("C:\\none"); }), 53);
+  EXPECT_EQ(Raised([] { Directory_Remove("C:\\full"); }), 75);
   EXPECT_EQ(root.Names(), (Name_Set{"full", "pipe"}));
   EXPECT_EQ(root.Names("full"), Name_Set{"inner"});
   EXPECT_EQ(Host_Error_Number(ENOSPC, "/file"), 61);
@@ -43,14 +38,11 @@ TEST_F(Files_Test, Missing_Rights_Change_Nothing) {
   Mode("locked", 0555);
   Mode("read_only", 0444);
   Mode("secret", 0);
-  const std::function<void()> refused[] = {
-      [] { File_Read("C:\\secret"); },
-      [] { File_Write("C:\\read_only", "new"); },
-      [] { File_Write("C:\\locked\\file", "new"); },
-      [] { File_Delete("C:\\locked\\file"); },
-  };
   ASSERT_TRUE(getuid() != 0 || seteuid(65534) == 0) << "root may do everything";
-  for (const auto& call : refused) EXPECT_EQ(Raised(call), Error_Permission_Denied) << &call - refused;
+  EXPECT_EQ(Raised([] { File_Read("C:\\secret"); }), Error_Permission_Denied);
+  EXPECT_EQ(Raised([] { File_Write("C:\\read_only", "new"); }), Error_Permission_Denied);
+  EXPECT_EQ(Raised([] { File_Write("C:\\locked\\file", "new"); }), Error_Permission_Denied);
+  EXPECT_EQ(Raised([] { File_Delete("C:\\locked\\file"); }), Error_Permission_Denied);
   EXPECT_EQ(seteuid(getuid()), 0);
   EXPECT_EQ(root.Get("locked/file") + root.Get("read_only"), "oldold");
   EXPECT_EQ(root.Names("locked"), Name_Set{"file"});

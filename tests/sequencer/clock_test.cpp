@@ -81,8 +81,7 @@ TEST_F(Sequencer_Test, Every_Way_To_Stop_Ends_Clock_And_Notes) {
     EXPECT_EQ(Sent().back(), "B0 7B 00");
     desktop.Advance_ms(1000);
     EXPECT_EQ(Sent(), Texts());
-    EXPECT_EQ(Seq_Running, Flag_Off);
-    EXPECT_EQ(Seq_Step, 0);
+    EXPECT_TRUE(Seq_Running == Flag_Off && Seq_Step == 0);
     EXPECT_EQ(service.Out_Is_Open(), !closes);
     Unload(Sequencer);
   }

@@ -35,6 +35,10 @@ void Expect_Contract(Midi_Service& service, const std::string& name,
 struct Post_Desktop final : Still_Desktop {
   void Post(std::function<void()> fn) override;
   void Run_Posts();
+  // Runs posts until the condition holds, for up to 20 s. False: it never did.
+  bool Run_Until(const std::function<bool()>& condition) {
+    return Await([&] { return Run_Posts(), condition(); });
+  }
 
  private:
   std::mutex mutex_;

@@ -1,7 +1,7 @@
 // The ALSA backend against the kernel's sequencer, as root in a virtual machine (run_in_vm.sh).
 #include <alsa/asoundlib.h>
 #include <fstream>
-#include <memory>
+#include <optional>
 
 #include "adapters/alsa/alsa_backend.h"
 #include "adapters/midi/service.h"
@@ -10,6 +10,7 @@
 namespace {
 
 constexpr const char* Synth_Name = "Test Synth MIDI 1";
+constexpr const char* Plug = "/config/usb_gadget/synth/UDC";  // of the cable: takes what it goes into
 constexpr int Usual_Cells = 200;  // that the kernel keeps for a client until it reads
 constexpr int Largest_Cells = 2000;
 
@@ -54,13 +55,8 @@ struct Software_Rig {
 
 // The instrument's end of the cable of the interface "Test Synth", as raw MIDI.
 struct Cable_End {
-  Cable_End() { Plug(); }
-  ~Cable_End() { Unplug(); }
-  Cable_End(const Cable_End&) = delete;
-  Cable_End& operator=(const Cable_End&) = delete;
-
-  void Plug() {
-    ASSERT_GE(snd_rawmidi_open(&in_, &out_, "hw:fmidi,0", 0), 0);
+  Cable_End() {
+    EXPECT_GE(snd_rawmidi_open(&in_, &out_, "hw:fmidi,0", 0), 0);
     snd_rawmidi_params_t* params = nullptr;
     snd_rawmidi_params_alloca(&params);
     snd_rawmidi_params_current(in_, params);
@@ -75,10 +71,13 @@ struct Cable_End {
     char byte = 0;
     snd_rawmidi_read(in_, &byte, 0);  // starts the input
   }
-  void Unplug() {
+  ~Cable_End() {
     snd_rawmidi_close(in_);
     snd_rawmidi_close(out_);
   }
+  Cable_End(const Cable_End&) = delete;
+  Cable_End& operator=(const Cable_End&) = delete;
+
   Byte_String Received(std::size_t count) {
     Byte_String bytes;
     char byte = 0;
@@ -107,15 +106,9 @@ struct Usb_Test : testing::Test {
   }
   void TearDown() override { EXPECT_EQ(Close_Output(service, handle), Midi_Ok); }
 
-  void Plug_Cable(bool in) {
-    std::ofstream udc("/config/usb_gadget/synth/UDC");
-    udc << (in ? "dummy_udc.0" : "") << std::endl;
-    ASSERT_TRUE(udc.good());
-  }
-
   Alsa::Alsa_Backend backend;
   Midi::Service service{{&backend}};
-  Cable_End instrument;
+  std::optional<Cable_End> instrument{std::in_place};
   std::int32_t handle = -1;
 };
 
@@ -133,23 +126,23 @@ TEST_F(Usb_Test, It_Stands_First_And_Messages_Arrive_Byte_For_Byte) {
   }
   EXPECT_EQ(service.Out_Short(handle, 0x7F3C90), Midi_Ok);
   want += Bytes_Of("90 3C 7F");
-  EXPECT_EQ(Hex_Text(instrument.Received(want.size())), Hex_Text(want));
+  EXPECT_EQ(Hex_Text(instrument->Received(want.size())), Hex_Text(want));
 }
 
 TEST_F(Usb_Test, Unplugged_It_Is_Told_And_Plugged_In_Found_Again) {
-  Plug_Cable(false);
+  std::ofstream(Plug) << std::endl;
   EXPECT_TRUE(Await([this] { return service.Out_Short(handle, 0x403C90) == Midi_No_Device; }));
   EXPECT_EQ(service.Out_Close(handle), Midi_Ok);
   EXPECT_TRUE(Await([this] {
     service.Refresh();
     return Open_Output(service, Synth_Name) < 0;
   }));
-  instrument.Unplug();
-  Plug_Cable(true);
-  instrument.Plug();
+  instrument.reset();
+  std::ofstream(Plug) << "dummy_udc.0" << std::endl;
+  instrument.emplace();
   SetUp();
   EXPECT_EQ(Send_Long(service, handle, Dump_Message(2)), Midi_Ok);
-  EXPECT_EQ(Hex_Text(instrument.Received(88)), Hex_Text(Dump_Over_Usb(2)));
+  EXPECT_EQ(Hex_Text(instrument->Received(88)), Hex_Text(Dump_Over_Usb(2)));
 }
 
 // The kernel hands a long message over in pieces of 256 bytes.
@@ -158,11 +151,8 @@ TEST_F(Usb_Test, An_Input_Joins_What_Comes_In_Pieces) {
   Test_Input input(service, Synth_Name);
   const Byte_String dump = Dump_Message(0).substr(0, 66) + "\xF7";
   const Byte_String large = "\xF0" + Byte_String(1000, '\x22') + "\xF7";
-  for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1), large}) instrument.Write(bytes);
-  EXPECT_TRUE(Await([&] {
-    desktop.Run_Posts();
-    return input.received == Texts{dump, large};
-  }));
+  for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1), large}) instrument->Write(bytes);
+  EXPECT_TRUE(desktop.Run_Until([&] { return input.received == Texts{dump, large}; }));
 }
 
 TEST(Software, Keeps_The_Contract) {

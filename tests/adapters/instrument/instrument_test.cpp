@@ -50,22 +50,6 @@ TEST(Receiver, A_Parameter_Message_Holds_Pairs_Up_To_Its_End) {
   EXPECT_EQ(receiver.memory.Values(Tone)[12], 0x22);
 }
 
-TEST(Receiver, Notes_Sound_Until_They_Are_Ended) {
-  const std::pair<const char*, int> rows[] = {
-      {"90 3C 40 3E 40 40 40", 3},        // running status
-      {"90 3C 40 3C 00", 0},              // velocity 0
-      {"90 3C 40 91 3C 40 B0 7B 00", 1},  // all notes off: of its channel only
-      {"90 3C F8 40", 1},                 // real time in the middle
-      {"90 3C 40 F0 41 F7 3E 40", 1},     // nothing is in force behind a System Exclusive message
-      {"C0 05 06 90 3C 40", 1},           // one data byte each
-  };
-  for (const auto& [stream, sounding] : rows) {
-    Instrument::Receiver receiver;
-    for (const char byte : Bytes_Of(stream)) receiver.Take(std::string_view(&byte, 1));
-    EXPECT_EQ(receiver.Sounding_Notes(), sounding) << stream;
-  }
-}
-
 TEST(Built_In, Transmits_Its_Tone_To_Who_Starts_To_Listen) {
   Post_Desktop desktop;
   Instrument::Built_In instrument;
@@ -75,10 +59,7 @@ TEST(Built_In, Transmits_Its_Tone_To_Who_Starts_To_Listen) {
   ASSERT_EQ(Send_Long(service, handle, dump), Midi_Ok);
   ASSERT_TRUE(Await([&] { return instrument.Values(Tone) == Counting_Tone(); }));
   Test_Input input(service, "Built-in JX-8P");
-  EXPECT_TRUE(Await([&] {
-    desktop.Run_Posts();
-    return input.received == Texts{dump};
-  }));
+  EXPECT_TRUE(desktop.Run_Until([&] { return input.received == Texts{dump}; }));
 }
 
 }  // namespace

@@ -160,9 +160,8 @@ TEST(Jack, An_Input_Hears_Its_Port) {
   Jack_Rig rig;
   Test_Input input(rig.service, "peer:out");
   // The connection is made in the background: send until the first has come.
-  EXPECT_TRUE(Await([&] {
+  EXPECT_TRUE(desktop.Run_Until([&] {
     rig.peer->Send("\xF0\x41\xF7");
-    desktop.Run_Posts();
     return !input.received.empty() && input.received[0] == "\xF0\x41\xF7";
   }));
 }

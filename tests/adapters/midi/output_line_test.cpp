@@ -26,17 +26,13 @@ struct Line_Test : testing::Test {
 
 TEST_F(Line_Test, An_Idle_Wire_Takes_A_Message_At_Once_And_A_Busy_One_Keeps_Its_Spacing) {
   for (const std::size_t size : {10U, 90U, 3U}) Long(std::string(size, 'x'));
-  const struct {
-    std::int64_t at_us;
-    std::int64_t next_us;
-    std::size_t written;
-  } rows[] = {{0, 3200, 10},
-              {3199, 3200, 10},
-              {3200, 32000, 100},
-              {32900, Midi::Never_us, 103}};  // a thread that wakes a little late does not slow the wire down
-  for (const auto& row : rows) {
-    EXPECT_EQ(line.Pump(row.at_us), row.next_us);
-    EXPECT_EQ(port.Bytes().size(), row.written) << row.at_us;
+  for (const auto& [at_us, next_us, written] :
+       {std::tuple{0, std::int64_t{3200}, 10U},
+        {3199, 3200, 10U},
+        {3200, 32000, 100U},
+        {32900, Midi::Never_us, 103U}}) {  // a thread that wakes a little late does not slow the wire down
+    EXPECT_EQ(line.Pump(at_us), next_us);
+    EXPECT_EQ(port.Bytes().size(), written) << at_us;
   }
   line.Take(Message_Kind::Short, "\x90\x3C\x40", 32910);
   EXPECT_EQ(line.Pump(32910), 32960);

@@ -1,4 +1,4 @@
-// The order of events, message boxes and child windows.
+// The order of events, and message boxes.
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
@@ -64,37 +64,17 @@ TEST_F(Desk, While_A_Box_Is_Open_Nothing_Of_The_Program_Runs) {
 }
 
 TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
-  const struct {
-    int style;
-    QMessageBox::StandardButton pressed;
-    Answer answer, escaped;
-  } rows[] = {
-      {Box_Ok, QMessageBox::Ok, Answer::Ok, Answer::Ok},
-      {Box_Yes_No_Cancel | Box_Question, QMessageBox::No, Answer::No, Answer::Cancel},
-      {Box_Yes_No | Box_Stop, QMessageBox::Yes, Answer::Yes, Answer::No},
-      {Box_Retry_Cancel, QMessageBox::Retry, Answer::Retry, Answer::Cancel},
-  };
   Show_Windows();
-  for (const auto& row : rows) {
-    At_Box([&](QWidget& box) { dynamic_cast<QMessageBox&>(box).button(row.pressed)->click(); });
-    EXPECT_EQ(Message_Box("?", row.style), row.answer) << row.style;
+  for (const auto& [style, pressed, answer, escaped] :
+       {std::tuple{Box_Ok, QMessageBox::Ok, Answer::Ok, Answer::Ok},
+        {Box_Yes_No_Cancel | Box_Question, QMessageBox::No, Answer::No, Answer::Cancel},
+        {Box_Yes_No | Box_Stop, QMessageBox::Yes, Answer::Yes, Answer::No},
+        {Box_Retry_Cancel, QMessageBox::Retry, Answer::Retry, Answer::Cancel}}) {
+    At_Box([pressed = pressed](QWidget& box) { dynamic_cast<QMessageBox&>(box).button(pressed)->click(); });
+    EXPECT_EQ(Message_Box("?", style), answer) << style;
     At_Box([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    EXPECT_EQ(Message_Box("?", row.style), row.escaped) << row.style;
+    EXPECT_EQ(Message_Box("?", style), escaped) << style;
   }
-}
-
-TEST_F(Desk, A_Window_May_Refuse_To_Close) {
-  panel.on_query_unload = [&](bool& cancel) {
-    Note("query");
-    cancel = log.size() < 2;
-  };
-  Show_Windows();
-  QWidget& title = *Widget("PANEL").parentWidget();
-  title.close();
-  EXPECT_TRUE(panel.Loaded() && title.isVisible());
-  title.close();
-  EXPECT_EQ(log, (Texts{"query", "query"}));
-  EXPECT_FALSE(panel.Loaded());
 }
 
 }  // namespace
