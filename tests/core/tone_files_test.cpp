@@ -100,9 +100,8 @@ TEST_F(Tone_Files, A_Further_Tone_Is_Asked_About_In_The_Words_Of_The_Mode) {
 
 TEST_F(Tone_Files, A_Save_That_Fails_Is_Told_And_Stays_Unsaved) {
   Tone_Saved = Flag_False;
-  using Row = std::pair<const char*, const char*>;
   for (const auto& [path, box] :
-       {Row{"C:\\no\\such.syx", "Error 76: Path not found"}, Row{"C:\\a*b.syx", "Wrong filename!"}}) {
+       {std::pair{"C:\\no\\such.syx", "Error 76: Path not found"}, {"C:\\a*b.syx", "Wrong filename!"}}) {
     Tone_File = path;
     desktop.Expect_Box(Answer::Ok, box);
     Tone_Save();

@@ -55,15 +55,4 @@ TEST_F(Setup, Escape_Writes_The_Lists_But_Leaves_The_Running_Program_Alone) {
   EXPECT_EQ(Chosen(), "1 3 One 3");
 }
 
-TEST_F(Setup, An_Absent_Choice_Stops_OK_With_Its_Number) {
-  MIDI_Out_Name = "Gone";
-  Menu_MIDI_Setup();
-  desktop.Expect_Box(Answer::Ok, "Error 380: Invalid property value");
-  User_Clicked(MIDI_Setup.Cmd_OK);
-  EXPECT_TRUE(MIDI_Setup.Loaded());
-  User_Selected(MIDI_Setup.Output_Devices, 1);
-  OK();
-  EXPECT_FALSE(MIDI_Setup.Loaded());
-}
-
 }  // namespace

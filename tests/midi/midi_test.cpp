@@ -99,19 +99,4 @@ TEST_F(Midi, The_Long_Path_Tells_Only_A_Failed_Prepare_And_Sends_All_The_Same) {
   EXPECT_EQ(service.calls["Out_Unprepare"], 2);
 }
 
-TEST_F(Midi, Listing_Tells_What_Is_Missing_And_An_Input_Alone_Switches_MIDI_On) {
-  service.outputs = {};
-  Autosend = 1;
-  desktop.Expect_Box(Answer::Ok, "No MIDI output device installed. MIDI functions disabled");
-  EXPECT_TRUE(MIDI_List_Devices());
-  EXPECT_EQ(MIDI_Enabled - Autosend, 1);
-  service.outputs = {"First", "Second ", "Second"};
-  service.inputs = {};
-  desktop.Expect_Box(Answer::Ok, "No MIDI input device installed. MIDI functions disabled");
-  EXPECT_TRUE(MIDI_List_Devices());
-  MIDI_Out_Name = "Second";
-  MIDI_Relist_Devices();
-  EXPECT_EQ(MIDI_Out_Device, 1);
-}
-
 }  // namespace

@@ -14,21 +14,11 @@ inline std::string Numbers(std::initializer_list<int> numbers) {
 }
 inline std::string Place_Of(const Control& control) { return Numbers({control.left(), control.top()}); }
 
-struct Key_Row {
-  Picture_Box& element;
-  int index, before, key, after;
-  std::string place;  // of what moves
-  std::string shown;  // in the display; empty: the name is still there
-};
-
-struct Drag_Row {
-  Picture_Box& element;
-  int index;
-  float x, y;
-  int after;
-  bool is_sent;
-  std::string place;
-};
+// Element, index, byte before, key, byte behind it, place of what moves, text in the display (empty: the
+// name).
+using Key_Row = std::tuple<Picture_Box&, int, int, int, int, std::string, std::string>;
+// Element, index, place in the element, byte behind the move, whether it is sent, place of what moves.
+using Drag_Row = std::tuple<Picture_Box&, int, float, float, int, bool, std::string>;
 
 struct Editor_Fixture : Program {
   Editor_Fixture() {
@@ -67,23 +57,23 @@ struct Editor_Fixture : Program {
   }
   // Each row starts from its own byte, and every key sends.
   void Expect_Keys(const std::vector<Key_Row>& rows) {
-    for (const Key_Row& row : rows) {
-      SCOPED_TRACE(testing::Message() << row.element.name << " " << row.before << " " << row.key);
-      Have(row.index, row.before);
-      Key_On(row.element, row.key);
-      Expect(row.index, row.after, row.place, true);
-      EXPECT_EQ(Display(), row.shown);
+    for (const auto& [element, index, before, key, after, place, shown] : rows) {
+      SCOPED_TRACE(testing::Message() << element.name << " " << before << " " << key);
+      Have(index, before);
+      Key_On(element, key);
+      Expect(index, after, place, true);
+      EXPECT_EQ(Display(), shown);
     }
   }
   // Each row goes on from the one before; the move is from the place of the press or of the last move.
   void Expect_Drags(const std::vector<Drag_Row>& rows) {
-    for (const Drag_Row& row : rows) {
-      SCOPED_TRACE(testing::Message() << row.element.name << " to " << row.after);
-      Set_Focus(row.element);
+    for (const auto& [element, index, x, y, after, is_sent, place] : rows) {
+      SCOPED_TRACE(testing::Message() << element.name << " to " << after);
+      Set_Focus(element);
       Tone_Saved = Flag_True;
-      desktop.Move(row.element, 90, 90, 0);  // without a button it is nothing
-      desktop.Move(row.element, row.x, row.y);
-      Expect(row.index, row.after, row.place, row.is_sent);
+      desktop.Move(element, 90, 90, 0);  // without a button it is nothing
+      desktop.Move(element, x, y);
+      Expect(index, after, place, is_sent);
     }
   }
 };

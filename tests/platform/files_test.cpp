@@ -65,7 +65,7 @@ TEST_F(Files_Test, A_Save_Keeps_Spelling_Rights_And_Links) {
   root.Put("Brass.SYX", "old");
   Mode("Brass.SYX", 0626);  // as no new file gets it
   root.Make("elsewhere");
-  root.Link("elsewhere/real", "link");
+  std::filesystem::create_symlink("elsewhere/real", root.host / "link");
   File_Write("C:\\brass.syx", "new");
   EXPECT_EQ(root.Get("Brass.SYX"), "new");
   EXPECT_EQ(static_cast<mode_t>(std::filesystem::status(root.host / "Brass.SYX").permissions()), 0626u);

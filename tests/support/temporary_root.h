@@ -27,9 +27,6 @@ struct Temporary_Root {
     if (!file.flush()) throw std::runtime_error("cannot write " + name);
   }
   void Make(const std::string& name) { std::filesystem::create_directories(host / name); }
-  void Link(const std::string& target, const std::string& name) {
-    std::filesystem::create_symlink(target, host / name);
-  }
 
   // "(none)" if there is no such file.
   std::string Get(const std::string& name) const {

@@ -28,8 +28,6 @@ struct Software_Rig {
     service.Refresh();
   }
   ~Software_Rig() { snd_seq_close(listener_); }
-  Software_Rig(const Software_Rig&) = delete;
-  Software_Rig& operator=(const Software_Rig&) = delete;
 
   Byte_String Received(std::size_t count) {
     Byte_String bytes;

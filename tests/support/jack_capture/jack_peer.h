@@ -33,8 +33,6 @@ struct Jack_Peer {
     jack_activate(client_);
   }
   ~Jack_Peer() { Close(); }
-  Jack_Peer(const Jack_Peer&) = delete;
-  Jack_Peer& operator=(const Jack_Peer&) = delete;
 
   void Close() {
     if (client_ != nullptr) jack_client_close(std::exchange(client_, nullptr));
