@@ -138,6 +138,17 @@ TEST_F(Tone_Files, A_Command_That_Asks_Goes_On_Behind_A_Save_Only) {
   EXPECT_TRUE(Tone_May_Go(Box_Yes_No_Cancel)) << "and asks no more";
 }
 
+TEST_F(Tone_Files, A_Dialog_That_Does_Not_Open_Is_Told) {
+  desktop.Expect_Box(Answer::Ok, "SaveAs Error 68 : Device unavailable");
+  desktop.Expect_Box(Answer::Ok, "Wrong filename!");
+  for (const int number : {Error_Device_Unavailable, Error_Bad_File_Name, Error_Cancelled}) {
+    File_Dlg.on_load = [number] { throw Runtime_Error(number); };
+    Tone_SaveAs();
+    File_Dlg.on_unload = nullptr;
+    Unload(File_Dlg);
+  }
+}
+
 // What the confirm of the dialog does: it saves, then puts the undo copies into the editor.
 TEST_F(Tone_Files, An_Edited_Sound_Saved_Over_An_Old_Name_Is_Still_On_Disk) {
   Load(Tone_Message(40));

@@ -1,8 +1,6 @@
 // The frame: how the program starts and closes.
 #include "core/sysex.h"
-#include "frame/help.h"
 #include "frame/whole_program.h"
-#include "windows/help_window.h"
 #include "windows/sequencer_window.h"
 
 namespace {
@@ -70,18 +68,6 @@ TEST_F(Frame, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
   EXPECT_FALSE(Unload(MELVOR));
   desktop.Advance_ms(1000);
   EXPECT_EQ(service.Take_Hex(), std::vector<std::string>{"B0 7B 00"});
-}
-
-TEST_F(Frame, Help_Holds_The_Program_Until_It_Closes) {
-  ASSERT_TRUE(Start());
-  Set_Focus(Editor.VCF_Res);
-  Menu_Help_Howto_Click();
-  EXPECT_FALSE(Editor.enabled() || MELVOR.Menu_File.enabled());
-  User_Clicked(Help.Cmd_Search);
-  EXPECT_TRUE(Help.Frame_Search.visible());
-  desktop.Key(Key::Escape);
-  EXPECT_FALSE(Help.Loaded());
-  EXPECT_EQ(Focused_Control(), &Editor.VCF_Res);
 }
 
 TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {

@@ -1,6 +1,8 @@
 #include "panel/patch.h"
 
 #include "panel/editor_fixture.h"
+#include "panel/patch_mks70.h"
+#include "windows/patch_mks70_window.h"
 #include "windows/patch_window.h"
 #include "windows/pictures.h"
 
@@ -113,6 +115,23 @@ TEST_F(Patch_Test, Tab_Walks_The_Groups_Forward_Even_With_Shift) {
     desktop.Key(Key::Tab, shift);
     EXPECT_EQ(Focused_Control(), &Patch.UDTune);
   }
+}
+
+TEST_F(Editor_Fixture, On_The_MKS70_What_Is_Changed_Goes_To_The_Tone_That_Is_Shown) {
+  auto& panel = Patch_MKS70;
+  MKS70_Patch.bytes.fill(0);
+  MKS70_Wire();
+  Show(panel);
+  for (Picture_Box* tone : {&panel.Tone_A, &panel.Tone_B_Pic}) {
+    desktop.Click(*tone);
+    User_Selected(panel.Split_Point, tone == &panel.Tone_A ? 87 : 39);
+    for (const int key : {Key::Home, Key::Keypad_Minus}) Key_On(panel.UDTune, key);
+  }
+  const std::string head = "F0 41 36 00 21 30 01 ";
+  EXPECT_EQ(Sent(), (Texts{head + "20 7F F7", head + "20 7E F7", head + "29 7F F7", head + "29 7E F7"}));
+  EXPECT_EQ(Numbers({MKS70_Patch[MKS70_Split_A], MKS70_Patch[MKS70_Split_B]}), "108 60");
+  desktop.Key(Key::Escape, 0, 27);
+  EXPECT_FALSE(panel.Loaded());
 }
 
 }  // namespace

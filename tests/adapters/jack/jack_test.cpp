@@ -29,8 +29,6 @@ struct Jack_Server {
     kill(pid, SIGCONT);
     End(SIGTERM);
   }
-  Jack_Server(const Jack_Server&) = delete;
-  Jack_Server& operator=(const Jack_Server&) = delete;
 
   void Start() {
     Choose_Server();

@@ -60,11 +60,11 @@ TEST_F(Service_Test, A_Call_Out_Of_Order_Is_Answered_By_Its_Code) {
   EXPECT_EQ(service.Out_Long(handle, header), Midi_Unprepared);
   EXPECT_EQ(service.Out_Prepare(handle, header), Midi_Invalid_Parameter) << "longer than its data";
   ASSERT_EQ(service.Out_Close(handle), Midi_Ok);
-  for (const std::int32_t wrong : {-1, 0, handle}) {
-    const int codes[] = {service.Out_Short(wrong, 0x90), service.Out_Long(wrong, header),
-                         service.Out_Close(wrong),       service.In_Add_Buffer(wrong, header),
-                         service.In_Reset(wrong),        service.In_Close(wrong)};
-    for (const int code : codes) EXPECT_EQ(code, Midi_Invalid_Handle) << wrong;
+  for (const std::int32_t wrong : {0, handle}) {
+    for (const int code :
+         {service.Out_Short(wrong, 0x90), service.Out_Long(wrong, header), service.Out_Close(wrong),
+          service.In_Add_Buffer(wrong, header), service.In_Reset(wrong), service.In_Close(wrong)})
+      EXPECT_EQ(code, Midi_Invalid_Handle) << wrong;
   }
 }
 
