@@ -132,6 +132,7 @@ TEST_F(Editor_Fixture, On_The_MKS70_What_Is_Changed_Goes_To_The_Tone_That_Is_Sho
   EXPECT_EQ(Numbers({MKS70_Patch[MKS70_Split_A], MKS70_Patch[MKS70_Split_B]}), "108 60");
   desktop.Key(Key::Escape, 0, 27);
   EXPECT_FALSE(panel.Loaded());
+  Unload(Patch);  // the knob's focus mark has loaded it
 }
 
 }  // namespace

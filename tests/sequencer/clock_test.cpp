@@ -31,7 +31,7 @@ TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Sile
 
 TEST_F(Sequencer_Test, Each_Mode_Walks_Its_Way) {
   MIDI_Enabled = 0;
-  // From -1 or 8 on: chosen as the clock has passed an end.
+  // From 8: chosen as the clock has passed the end.
   for (const auto& [mode, start, want] :
        {std::tuple{Play_Mode::Forward, 0, Steps{0, 1, 2, 3, 4, 5, 6, 7, 0, 1}},
         {Play_Mode::Backward, 7, {7, 6, 5, 4, 3, 2, 1, 0, 7, 6}},

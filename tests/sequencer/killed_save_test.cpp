@@ -84,7 +84,12 @@ struct Save_Row {
 };
 
 const Save_Row Saves[] = {
-    {"tone", [] { return Tone_Save(), Tone_Saved == Flag_True; }, "wfrfwwfrf"},
+    {"tone",
+     [] {
+       Tone_Save();
+       return Tone_Saved == Flag_True;
+     },
+     "wfrfwwfrf"},
     {"sequence", [] { return Raised(Seq_Save) == 0; }, "wfrfwwfrf"},
     {"settings", [] { return Write_Profile_String("MIDI", "Channel", "5", INI_File); }, "wfrf"}};
 

@@ -37,7 +37,10 @@ struct Post_Desktop final : Still_Desktop {
   void Run_Posts();
   // Runs posts until the condition holds, for up to 20 s. False: it never did.
   bool Run_Until(const std::function<bool()>& condition) {
-    return Await([&] { return Run_Posts(), condition(); });
+    return Await([&] {
+      Run_Posts();
+      return condition();
+    });
   }
 
  private:

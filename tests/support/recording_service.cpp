@@ -62,7 +62,7 @@ int Recording_Service::Open(const std::string& operation, std::int32_t& handle, 
                             const Texts& names, int device) {
   if (opened != 0) return Midi_Allocated;
   if (device < 0 || device >= static_cast<int>(names.size())) return Midi_Bad_Device;
-  const int code = Do(operation, 1, 1);
+  const int code = Do(operation, 1, 1);  // no handle yet that could be wrong
   if (code == Midi_Ok) handle = opened = ++last_handle_;
   return code;
 }
