@@ -8,7 +8,6 @@ namespace {
 
 constexpr std::string_view No_Tone = "Wrong MIDI system exclusive data!";
 constexpr std::string_view Past_End = "Error 62: Input past end of file";
-// Both heads, but for the channel that the reader passes over.
 // The places of the two heads, but for the channels, which the reader passes over.
 const std::set<std::size_t> Tone_Head{0, 1, 2, 4, 5, 6}, Patch_Head{67, 68, 69, 71, 72, 73};
 

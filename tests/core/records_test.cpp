@@ -21,18 +21,13 @@ TEST_F(Records, A_Semitone_Is_Four_Bytes_Wide_But_At_Fifths_Octaves_And_The_Cent
 }
 
 TEST_F(Records, A_Set_Parameter_Is_Stored_Shown_Sent_And_Unsaved) {
-  struct Row {
-    int index;
-    int value;
-    const char* shown;
-  };
-  for (const Row& row :
-       {Row{34, 127, "99"}, Row{13, 71, "0"}, Row{19, 72, "1"}, Row{20, 0, "-50"}, Row{11, 96, "kept"}}) {
+  for (const auto& [index, value, shown] :
+       {std::tuple{34, 127, "99"}, {13, 71, "0"}, {19, 72, "1"}, {20, 0, "-50"}, {11, 96, "kept"}}) {
     Editor.Tone_Name.Set_Text("kept");
     Tone_Saved = Flag_True;
-    Tone_Param_Set(row.index, row.value);
-    EXPECT_EQ(Tone[row.index], row.value);
-    EXPECT_EQ(Editor.Tone_Name.text(), row.shown) << row.index;
+    Tone_Param_Set(index, value);
+    EXPECT_EQ(Tone[index], value);
+    EXPECT_EQ(Editor.Tone_Name.text(), shown) << index;
     EXPECT_EQ(Sent().size(), 1U);
     EXPECT_EQ(Tone_Saved, Flag_False);
   }

@@ -26,12 +26,9 @@ TEST_F(Settings, Without_A_File_And_From_Noise_The_Defaults_Stand) {
                "[Recent Files]\nTones=Q:\\nowhere\n");
     }
     Settings_Load();
-    EXPECT_EQ(MELVOR.left() + MELVOR.top(), 0);
-    EXPECT_EQ(MELVOR.width(), 541 * 15);
-    EXPECT_EQ(MELVOR.height(), 508 * 15);
-    EXPECT_EQ(Autosend, noise ? 0 : 1);
-    EXPECT_EQ(Soundcheck_Note, 24);
-    EXPECT_EQ(Soundcheck_Velocity, 80);
+    EXPECT_EQ((std::vector<int>{MELVOR.left(), MELVOR.top(), MELVOR.width(), MELVOR.height(), Autosend,
+                                Soundcheck_Note, Soundcheck_Velocity}),
+              (std::vector<int>{0, 0, 541 * 15, 508 * 15, noise ? 0 : 1, 24, 80}));
   }
 }
 

@@ -28,9 +28,7 @@ TEST_F(Tone_Commands, A_Changed_Tone_Is_Asked_About_And_Cancel_Ends_The_Command)
   for (const auto command : {Tone_New, Tone_Receive}) {
     desktop.Expect_Box(Answer::Cancel, "Save actual TONE first?");
     command();
-    EXPECT_EQ(Tone[34], 9);
-    EXPECT_EQ(Tone_Saved, Flag_False);
-    EXPECT_FALSE(service.In_Is_Open());
+    EXPECT_TRUE(Tone[34] == 9 && Tone_Saved == Flag_False && !service.In_Is_Open());
   }
   desktop.Expect_Box(Answer::No, "Save actual TONE first?");
   Tone_New();
@@ -65,29 +63,27 @@ TEST_F(Tone_Commands, Only_A_Dump_Of_67_Bytes_Ends_The_Wait) {
     EXPECT_TRUE(service.Deliver(Dump(size)));
     EXPECT_EQ(Tone[58], last) << size;
     EXPECT_EQ(Receive_On, 1);
-    EXPECT_EQ(service.Free_Buffers(), 4) << "the buffer goes back";
+    EXPECT_EQ(service.buffers.size(), 4U) << "the buffer goes back";
   }
   EXPECT_TRUE(service.Deliver(Dump(67)));
   EXPECT_EQ(Tone_Name_Str, "AAAAAAAAAA");
   EXPECT_EQ(Autosend - Receive_On, 1);
-  EXPECT_TRUE(MELVOR.Menu_File.enabled());
-  EXPECT_FALSE(service.In_Is_Open());
+  EXPECT_TRUE(MELVOR.Menu_File.enabled() && !service.In_Is_Open());
   EXPECT_TRUE(Sent().empty()) << "what came is not echoed";
 }
 
 TEST_F(Tone_Commands, A_Failed_Open_Changes_Nothing_And_A_Vanished_Input_Closes) {
-  using Row = std::pair<Midi_Operation, const char*>;
-  for (const auto& [operation, box] : {Row{Midi_Operation::In_Open, "vbMidiInOpen: Text of 4"},
-                                       Row{Midi_Operation::In_Prepare, "vbMidiInPrepareHeader: Text of 4"},
-                                       Row{Midi_Operation::In_Add_Buffer, "vbMidiInAddBuffer: Text of 4"},
-                                       Row{Midi_Operation::In_Start, "vbMidiInOpen: Text of 4"}}) {
+  for (const auto& [operation, told] : {std::pair{"In_Open", "vbMidiInOpen"},
+                                         {"In_Prepare", "vbMidiInPrepareHeader"},
+                                         {"In_Add_Buffer", "vbMidiInAddBuffer"},
+                                         {"In_Start", "vbMidiInOpen"}}) {
     service.Fail_Next(operation, Midi_Allocated);
-    desktop.Expect_Box(Answer::Ok, box);
+    desktop.Expect_Box(Answer::Ok, told + std::string(": Text of 4"));
     Tone_Receive_Toggle();
     EXPECT_FALSE(Receive_On == 1 || service.In_Is_Open());
   }
   Tone_Receive_Toggle();
-  service.Fail_Next(Midi_Operation::In_Reset, Midi_Invalid_Handle);
+  service.Fail_Next("In_Reset", Midi_Invalid_Handle);
   desktop.Expect_Box(Answer::Ok, "vbMidiInClose: Text of 5");
   Tone_Receive_Toggle();
   EXPECT_EQ(MIDI_In_Handle + Receive_On, -1);

@@ -4,13 +4,6 @@ namespace {
 
 using Dialog_Test = Filebrowser_Test;
 
-TEST_F(Dialog_Test, Among_All_Files_None_Does_Anything) {
-  Open("Open_SYX");
-  User_Selected(File_Dlg.FD_List_Filter, 1);
-  Press_File("B.SYX");
-  EXPECT_EQ(Tone[0], 'M');
-}
-
 TEST_F(Dialog_Test, Each_Kind_Has_Its_Caption_And_Files) {
   for (const auto& [kind, caption, filter] : {std::tuple{"Open_SYX", "Open Tone File", "Sysex (*.SYX)"},
                                               {"Open_SEQ", "Open Sequencer File", "Sequence (*.SEQ)"},

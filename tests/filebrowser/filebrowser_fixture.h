@@ -2,8 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <string>
-#include <vector>
 
 #include "core/recent.h"
 #include "core/settings.h"
@@ -68,7 +66,7 @@ struct Filebrowser_Test : Program {
     Seq_Data.fill(5);
     Seq_File = "old sequence";
     MIDI_Out_Close_Wholly();
-    service.Take_Sent();
+    service.sent.clear();
   }
 
   void Open(const std::string& kind) {
@@ -96,15 +94,13 @@ struct Filebrowser_Test : Program {
     desktop.Type(File_Dlg.FD_FileName, text);
     desktop.Key(Key::Enter);
   }
-  std::string Text() const { return File_Dlg.FD_FileName.text(); }
 
   // What went over the wire: a tone dump as "dump" and the first letter of its name.
   std::string Heard() {
     std::string heard;
-    for (const Byte_String& message : service.Take_Sent()) {
+    for (const Byte_String& message : std::exchange(service.sent, {})) {
       const bool dump = message.size() == 90;
-      heard += (heard.empty() ? "" : ", ") +
-               (dump ? "dump " + message.substr(7, 1) : Hex_Text(message));
+      heard += (heard.empty() ? "" : ", ") + (dump ? "dump " + message.substr(7, 1) : Hex_Text(message));
     }
     return heard;
   }

@@ -59,7 +59,7 @@ TEST_F(Folders_Test, A_Drive_That_Is_Not_Ready_Can_Be_Tried_Again_Or_Given_Up) {
   desktop.Expect_Box(Answer::Cancel, "Drive not ready or unavailable.");
   User_Selected(File_Dlg.FD_List_Drives, 1);
   EXPECT_EQ(File_Dlg.FD_List_Drives.drive() + FD_Drive + File_Dlg.FD_List_Dirs.path(), "C:C:C:\\work");
-  desktop.on_other_box = [&](const Shown_Box&) {
+  desktop.on_other_box = [&] {
     root.Make("stick");
     return Answer::Retry;
   };

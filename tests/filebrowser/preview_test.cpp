@@ -32,27 +32,23 @@ TEST_F(Preview_Test, A_Preview_That_Is_Overtaken_Stays_Silent) {
 }
 
 TEST_F(Preview_Test, The_Switches_Say_What_Is_Heard) {
-  const struct {
-    std::uint8_t autosend, autoplay, soundcheck, midi;
-    const char* heard;
-    bool runs;
-  } rows[] = {{0, 1, 0, 1, "90 30 50", false},
-              {1, 0, 0, 1, "B0 7B 00, dump A, dump A", false},
-              {0, 1, 1, 1, "", true},
-              {1, 1, 0, 0, "", false}};
-  for (const auto& row : rows) {
+  // Autosend, Autoplay, Soundcheck and MIDI as digits; what is heard; whether the sequence runs.
+  for (const auto& [switches, heard, runs] : {std::tuple{"0101", "90 30 50", false},
+                                              {"1001", "B0 7B 00, dump A, dump A", false},
+                                              {"0111", "", true},
+                                              {"1100", "", false}}) {
     Fresh_Memory();
     Seq_Loaded = Flag_On;
-    Autosend = row.autosend;
-    Autoplay = row.autoplay;
-    Soundcheck = row.soundcheck;
-    MIDI_Enabled = row.midi;
+    Autosend = switches[0] == '1';
+    Autoplay = switches[1] == '1';
+    Soundcheck = switches[2] == '1';
+    MIDI_Enabled = switches[3] == '1';
     Open("Open_SYX");
     Press_File("a.syx");
-    EXPECT_EQ(Heard(), row.heard);
+    EXPECT_EQ(Heard(), heard);
     EXPECT_EQ(Tone[0], 'A');
-    EXPECT_EQ(MELVOR.Seq_Tmr.enabled(), row.runs);
-    EXPECT_EQ(File_Dlg.FD_SYX_Button_Start.picture() == Button_Dn3D, row.runs);
+    EXPECT_EQ(MELVOR.Seq_Tmr.enabled(), runs);
+    EXPECT_EQ(File_Dlg.FD_SYX_Button_Start.picture() == Button_Dn3D, runs);
     desktop.Click(File_Dlg.FD_SYX_Button_Stop_Pic);
     EXPECT_FALSE(MELVOR.Seq_Tmr.enabled());
     Unload(File_Dlg);

@@ -13,19 +13,8 @@ TEST_F(Frame, A_Configured_Start_Shows_The_Editor_And_Sends_Nothing) {
   EXPECT_EQ(Active_Form(), &Editor);
   EXPECT_EQ(Tone[13], 56);
   EXPECT_TRUE(Tone_Saved == Flag_True && Seq_Saved == Flag_On);
-  EXPECT_TRUE(service.Sent().empty());
+  EXPECT_TRUE(service.sent.empty());
   EXPECT_FALSE(service.Out_Is_Open());
-}
-
-TEST_F(Frame, Only_Two_Densities_Are_Known) {
-  desktop.pixels_per_inch = 144;
-  desktop.Expect_Box(Answer::Ok);
-  EXPECT_FALSE(Start());
-  EXPECT_TRUE(desktop.Last_Box().starts_with("Unsupported system font size: 144 ppi"));
-  EXPECT_FALSE(Editor.Loaded());
-  desktop.pixels_per_inch = 120;
-  EXPECT_TRUE(Start());
-  EXPECT_EQ(Editor.width(), 528 * 12);
 }
 
 TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Load) {
@@ -37,8 +26,7 @@ TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Loa
 }
 
 TEST_F(Frame, Without_Any_Device_The_Program_Runs_On_Its_Own) {
-  service.Outputs({});
-  service.Inputs({});
+  service.outputs = service.inputs = {};
   desktop.Expect_Box(Answer::Ok, "No MIDI output device installed. MIDI functions disabled");
   desktop.Expect_Box(Answer::Ok, "No MIDI input device installed. MIDI functions disabled");
   ASSERT_TRUE(Start());
@@ -58,19 +46,16 @@ TEST_F(Frame, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
 }
 
 TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
-  struct Row {
-    Answer tone, sequence;
-    bool closes;
-  };
-  for (const Row& row : {Row{Answer::Cancel, Answer::No, false}, Row{Answer::No, Answer::Cancel, false},
-                         Row{Answer::No, Answer::No, true}}) {
+  for (const auto& [tone, sequence, closes] : {std::tuple{Answer::Cancel, Answer::No, false},
+                                               {Answer::No, Answer::Cancel, false},
+                                               {Answer::No, Answer::No, true}}) {
     ASSERT_TRUE(Start());
-    desktop.Choose_Menu(MELVOR.Menu_MIDI_Seq);
+    Choose(MELVOR.Menu_MIDI_Seq);
     Tone_Saved = Flag_False;
     Seq_Saved = Flag_Off;
-    desktop.Expect_Box(row.tone, "Save actual TONE first?");
-    desktop.Expect_Box(row.sequence, "Save actual SEQUENCE first?");
-    EXPECT_EQ(Unload(MELVOR), row.closes);
+    desktop.Expect_Box(tone, "Save actual TONE first?");
+    desktop.Expect_Box(sequence, "Save actual SEQUENCE first?");
+    EXPECT_EQ(Unload(MELVOR), closes);
     EXPECT_FALSE(Sequencer.Loaded());
   }
   EXPECT_TRUE(desktop.quit);
@@ -97,31 +82,14 @@ TEST_F(Frame, Closing_While_It_Waits_For_A_Tone_Keeps_Autosend_In_The_Settings) 
   EXPECT_NE(root.Get("MELVOR.INI").find("Autosend=1"), std::string::npos);
 }
 
-TEST_F(Frame, Reset_Puts_Itself_And_Corners_Back_By_Screen) {
-  ASSERT_TRUE(Start());
-  struct Row {
-    int density, screen_height, width, height;
-  };
-  for (const Row& row : {Row{96, 1024, 540, 506}, Row{120, 1024, 540, 516}, Row{120, 480, 556, 440}}) {
-    System_PPI = desktop.pixels_per_inch = row.density;
-    desktop.screen.height = row.screen_height;
-    Seq_Left = 500;
-    desktop.Expect_Box(Answer::Yes, "Do you really want to RESET the window settings?");
-    desktop.Choose_Menu(MELVOR.Menu_Windows_Reset);
-    EXPECT_EQ(MELVOR.width() / Twips_Per_Pixel(), row.width);
-    EXPECT_EQ(MELVOR.height() / Twips_Per_Pixel(), row.height);
-    EXPECT_EQ(Seq_Left, 1);
-  }
-}
-
 TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
   ASSERT_TRUE(Start());
-  service.Fail_Next(Midi_Operation::Out_Open, 68, 99);
+  service.Fail_Next("Out_Open", 68, 99);
   End_Without_Questions();
   EXPECT_FALSE(MELVOR.Loaded());
 
   desktop.quit = false;
-  desktop.on_other_box = [](const Shown_Box&) {
+  desktop.on_other_box = [] {
     End_Without_Questions();
     return Answer::Ok;
   };

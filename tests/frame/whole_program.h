@@ -1,12 +1,9 @@
 // The whole program from its settings file to its end.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "core/records.h"
 #include "frame/start_up.h"
 #include "midi/devices.h"
-#include "midi/output.h"
 #include "midi/state.h"
 #include "platform/directories.h"
 #include "sequencer/model.h"
@@ -23,15 +20,11 @@ constexpr const char* Configured = "[MIDI]\nInput=JX-8P\nOutput=JX-8P\n";
 
 struct Whole_Program : testing::Test {
   Whole_Program() {
-    Install_Midi_Service(&service);
     MIDI_Enabled = 0;
     Directories_Set("C:", root.host.string());
     root.Put("MELVOR.FNT", "font");
   }
-  ~Whole_Program() override {
-    End_Without_Questions();
-    Install_Midi_Service(nullptr);
-  }
+  ~Whole_Program() override { End_Without_Questions(); }
   bool Start(const std::string& settings = Configured) {
     root.Put("MELVOR.INI", settings);
     return Start_Up();

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "midi/devices.h"
 #include "midi/output.h"
 #include "midi/setup.h"
@@ -10,11 +8,8 @@
 
 namespace {
 
-using Messages = std::vector<std::string>;
-
 struct Midi : testing::Test {
   Midi() {
-    Install_Midi_Service(&service);
     MIDI_Enabled = 1;
     MIDI_Channel = 1;
     MIDI_Out_Device = 0;
@@ -22,10 +17,7 @@ struct Midi : testing::Test {
     Seq_Status = 0;
     Show(Editor);  // the close looks for a window
   }
-  ~Midi() override {
-    Unload(Editor);
-    Install_Midi_Service(nullptr);
-  }
+  ~Midi() override { Unload(Editor); }
   Scripted_Desktop desktop;
   Recording_Service service;
 };
@@ -38,9 +30,8 @@ TEST_F(Midi, The_Output_Opens_At_The_First_Send_And_Stays_Open) {
   Seq_SendAllNotesOff();
   Seq_SendNote(3, 4);
   MIDI_Put(Byte_String("\xC0", 1));
-  EXPECT_EQ(service.Calls(Midi_Operation::Out_Open), 1);
-  EXPECT_EQ(service.Take_Hex(),
-            (Messages{"90 3C 5A", "F0 41 F7", "BF 7B 00", "BF 7B 00", "9F 03 04", "C0 00"}));
+  EXPECT_EQ(service.calls["Out_Open"], 1);
+  EXPECT_EQ(service.Take_Hex(), (Texts{"90 3C 5A", "F0 41 F7", "BF 7B 00", "BF 7B 00", "9F 03 04", "C0 00"}));
 }
 
 TEST_F(Midi, Disabled_It_Sends_Nothing_And_Keeps_The_Handle_But_The_Sequencers_Note_Looks_At_Nothing) {
@@ -55,20 +46,20 @@ TEST_F(Midi, Disabled_It_Sends_Nothing_And_Keeps_The_Handle_But_The_Sequencers_N
   EXPECT_TRUE(service.Take_Hex().empty());
   Seq_Status = Note_On_Status();
   Seq_SendNote(60, 127);
-  EXPECT_EQ(service.Take_Hex(), Messages{"90 3C 7F"});
+  EXPECT_EQ(service.Take_Hex(), Texts{"90 3C 7F"});
 }
 
 TEST_F(Midi, Close_Sends_All_Notes_Off_And_Asks_Again_While_The_Service_Plays) {
   MIDI_Out_Open();
-  service.Answer_65(3);
+  service.Fail_Next("Out_Close", Midi_Still_Playing, 3);
   MIDI_Out_Close();
-  EXPECT_EQ(service.Take_Hex(), Messages{"B0 7B 00"});
-  EXPECT_EQ(service.Calls(Midi_Operation::Out_Close), 4);
+  EXPECT_EQ(service.Take_Hex(), Texts{"B0 7B 00"});
+  EXPECT_EQ(service.calls["Out_Close"], 4);
   EXPECT_FALSE(service.Out_Is_Open());
 }
 
 TEST_F(Midi, A_Failed_Open_Is_Told_And_Switches_MIDI_Off) {
-  service.Fail_Next(Midi_Operation::Out_Open, Midi_Allocated, 3);
+  service.Fail_Next("Out_Open", Midi_Allocated, 3);
   for (void (*send)() :
        {+[] { MIDI_Send_Long("\xF0\xF7"); }, +[] { MIDI_SendNote(60, 1); }, Seq_SendAllNotesOff}) {
     MIDI_Enabled = 1;
@@ -80,15 +71,15 @@ TEST_F(Midi, A_Failed_Open_Is_Told_And_Switches_MIDI_Off) {
 
 TEST_F(Midi, A_Short_Message_That_Fails_Closes_The_Output_And_Switches_MIDI_Off) {
   using Row = std::pair<void (*)(), const char*>;
-  for (const auto& [send, box] : {Row{[] { MIDI_SendNote(60, 1); }, "MIDI_SendNote*: (999) Unknown error"},
-                                  Row{[] { Seq_SendNote(60, 1); }, "Seq_SendNote*: (999) Unknown error"},
-                                  Row{Seq_SendAllNotesOff, "Seq_SendAllNotesOff*: (999) Unknown error"}}) {
+  for (const auto& [send, name] :
+       {Row{[] { MIDI_SendNote(60, 1); }, "MIDI_SendNote"}, Row{[] { Seq_SendNote(60, 1); }, "Seq_SendNote"},
+        Row{Seq_SendAllNotesOff, "Seq_SendAllNotesOff"}}) {
     MIDI_Enabled = 1;
     MIDI_Out_Open();
-    service.Fail_Next(Midi_Operation::Out_Short, 999);
-    desktop.Expect_Box(Answer::Ok, box);
+    service.Fail_Next("Out_Short", 999);
+    desktop.Expect_Box(Answer::Ok, name + std::string("*: (999) Unknown error"));
     send();
-    EXPECT_EQ(service.Take_Hex(), Messages{"B0 7B 00"}) << "of the close";
+    EXPECT_EQ(service.Take_Hex(), Texts{"B0 7B 00"}) << "of the close";
     EXPECT_EQ(MIDI_Out_Handle + MIDI_Enabled, -1);
   }
   MIDI_Enabled = 1;
@@ -98,36 +89,20 @@ TEST_F(Midi, A_Short_Message_That_Fails_Closes_The_Output_And_Switches_MIDI_Off)
   MIDI_Out_Close();
   MIDI_Enabled = 1;
   MIDI_Out_Open();
-  service.Unplug();
-  desktop.Expect_Box(Answer::Ok, "MIDI_Put*: (68) Text of 68");
-  desktop.Expect_Box(Answer::Ok, "MIDI_Put*: (68) Text of 68");
+  service.Fail_Next("Out_Short", Midi_No_Device, 99);
+  for (int box = 0; box < 2; ++box) desktop.Expect_Box(Answer::Ok, "MIDI_Put*: (68) Text of 68");
   MIDI_Out_Close();
   EXPECT_EQ(MIDI_Out_Handle + MIDI_Enabled, -1);
 }
 
 TEST_F(Midi, The_Long_Path_Tells_Only_A_Failed_Prepare_And_Sends_All_The_Same) {
-  service.Fail_Next(Midi_Operation::Out_Prepare, Midi_Invalid_Parameter);
+  service.Fail_Next("Out_Prepare", Midi_Invalid_Parameter);
   desktop.Expect_Box(Answer::Ok, "OutPreparerHeader\r\nText of 11");
   MIDI_Send_Long("\xF0\xF7");
-  service.Fail_Next(Midi_Operation::Out_Long, Midi_Not_Ready);
+  service.Fail_Next("Out_Long", Midi_Not_Ready);
   MIDI_Send_Long("\xF0\x01\xF7");
-  EXPECT_EQ(service.Calls(Midi_Operation::Out_Long), 2);
-  EXPECT_EQ(service.Calls(Midi_Operation::Out_Unprepare), 2);
-}
-
-TEST_F(Midi, Listing_Tells_What_Is_Missing_And_An_Input_Alone_Switches_MIDI_On) {
-  service.Outputs({});
-  Autosend = 1;
-  desktop.Expect_Box(Answer::Ok, "No MIDI output device installed. MIDI functions disabled");
-  EXPECT_TRUE(MIDI_List_Devices());
-  EXPECT_EQ(MIDI_Enabled - Autosend, 1);
-  service.Outputs({"First", "Second ", "Second"});
-  service.Inputs({});
-  desktop.Expect_Box(Answer::Ok, "No MIDI input device installed. MIDI functions disabled");
-  EXPECT_TRUE(MIDI_List_Devices());
-  MIDI_Out_Name = "Second";
-  MIDI_Relist_Devices();
-  EXPECT_EQ(MIDI_Out_Device, 1);
+  EXPECT_EQ(service.calls["Out_Long"], 2);
+  EXPECT_EQ(service.calls["Out_Unprepare"], 2);
 }
 
 }  // namespace

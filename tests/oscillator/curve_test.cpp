@@ -60,24 +60,20 @@ TEST(Oscillator_Curve, Random_Goes_On_From_The_Level_Before) {
 }
 
 TEST(Oscillator_Curve, Amplitude_And_Offset_Cut_And_Clamp) {
-  struct Row {
-    int from, amplitude, offset, want;
-  };
   // clang-format off
-  const std::vector<Row> rows{
-      {96, 64, 0, 95},                                     // the neutral setting lowers by one
+  for (const auto& [from, amplitude, offset, want] : {
+      std::tuple{96, 64, 0, 95},                           // the neutral setting lowers by one
       {64, 0, 0, 63}, {64, 127, 0, 63}, {0, 0, 0, 63},     // the line that stays; no amplitude is flat
       {96, 127, 0, 126}, {65, 32, 0, 63}, {32, 127, 0, 0}, // 126.5, 63.5 and -0.5 are cut
       {0, 64, 64, 0}, {127, 64, -64, 127},                 // clamped
       {64, 64, 20, 43},                                    // a positive offset moves up
-      {16320, 1, 64, 127}, {-8064, 1, -64, 0}};            // as far out as the pen can take a level
-  // clang-format on
-  for (const Row& row : rows) {
-    Osc_Raw.fill({64, static_cast<std::int16_t>(row.from)});
-    Osc_Raw[3] = {static_cast<std::int16_t>(row.from), 64};
-    Osc_Shape(row.amplitude, row.offset);
-    EXPECT_EQ(Osc_Out[3].start, row.want) << row.from << " at " << row.amplitude;
-    EXPECT_EQ(Osc_Out[2].end, row.want) << row.from << " at " << row.amplitude;
+      {16320, 1, 64, 127}, {-8064, 1, -64, 0}}) {          // as far out as the pen can take a level
+    // clang-format on
+    Osc_Raw.fill({64, static_cast<std::int16_t>(from)});
+    Osc_Raw[3] = {static_cast<std::int16_t>(from), 64};
+    Osc_Shape(amplitude, offset);
+    EXPECT_EQ(Osc_Out[3].start, want) << from << " at " << amplitude;
+    EXPECT_EQ(Osc_Out[2].end, want) << from << " at " << amplitude;
   }
 }
 

@@ -29,7 +29,7 @@ TEST_F(Display_Test, A_Name_Goes_Up_In_Case_And_Out_In_One_Message_Without_Odd_B
   EXPECT_FALSE(TName.Loaded());
   EXPECT_EQ(Tone_Name_Str + "|" + Display(), "SOFT CAF\xC3\xA9 |SOFT CAF\xC3\xA9 ");
   EXPECT_EQ(Sent(),
-            Messages{"F0 41 36 00 21 20 01 00 53 01 4F 02 46 03 54 04 20 05 43 06 41 07 46 08 20 09 20 0F"});
+            Texts{"F0 41 36 00 21 20 01 00 53 01 4F 02 46 03 54 04 20 05 43 06 41 07 46 08 20 09 20 0F"});
 }
 
 TEST_F(Display_Test, Cancel_Changes_Nothing_And_No_Entry_Opens_By_Tab_Or_Beside_A_Modal_Window) {
@@ -48,12 +48,11 @@ TEST_F(Display_Test, Cancel_Changes_Nothing_And_No_Entry_Opens_By_Tab_Or_Beside_
 }
 
 TEST_F(Display_Test, The_Prompt_Waits_For_Its_Answer) {
-  const std::vector<std::pair<std::function<void()>, std::string>> rows{
-      {[&] { desktop.Key(Key::Enter, 0, 13); }, "second"},
-      {[&] { User_Closes(Input_Dlg); }, ""},
-      {[&] { Unload(MELVOR); }, ""}};  // the end of the program ends the wait
   Show(MELVOR);
-  for (const auto& [answer, result] : rows) {
+  using Row = std::pair<std::function<void()>, const char*>;
+  for (const auto& [answer, result] :
+       {Row{[&] { desktop.Key(Key::Enter, 0, 13); }, "second"}, Row{[] { User_Closes(Input_Dlg); }, ""},
+        Row{[] { Unload(MELVOR); }, ""}}) {  // the end of the program ends the wait
     desktop.At_Wait([&] {
       desktop.Type(Input_Dlg.Input_Textbox, "second");
       answer();
@@ -70,7 +69,7 @@ TEST_F(Display_Test, It_Gets_The_Font_And_Gives_It_Back_Once_Or_Keeps_Its_Face) 
   EXPECT_EQ(Editor.Tone_Name.font_face(), "");
   desktop.fonts_load = true;
   Pics_Build_Segments();
-  EXPECT_EQ(desktop.fonts, Messages{"/data/melvor/MELVOR.FNT"});
+  EXPECT_EQ(desktop.fonts, Texts{"/data/melvor/MELVOR.FNT"});
   EXPECT_EQ(Editor.Tone_Name.font_face(), "MELVOR");
   desktop.remove_font_error = 5;
   desktop.Expect_Box(Answer::Ok, "Error 5");

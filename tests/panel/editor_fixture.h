@@ -2,42 +2,23 @@
 // otherwise.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "panel/editor.h"
 #include "support/program.h"
 #include "windows/editor_window.h"
 #include "windows/focus_mark.h"
-
-using Messages = std::vector<std::string>;
 
 inline std::string Numbers(std::initializer_list<int> numbers) {
   std::string text;
   for (const int number : numbers) text += (text.empty() ? "" : " ") + std::to_string(number);
   return text;
 }
-// Left and top.
-template <class Form_Or_Control>
-std::string Place_Of(const Form_Or_Control& thing) {
-  return Numbers({thing.left(), thing.top()});
-}
+inline std::string Place_Of(const Control& control) { return Numbers({control.left(), control.top()}); }
 
-struct Key_Row {
-  Picture_Box& element;
-  int index, before, key, after;
-  std::string place;  // of what moves
-  std::string shown;  // in the display; empty: the name is still there
-};
-
-struct Drag_Row {
-  Picture_Box& element;
-  int index;
-  float x, y;
-  int after;
-  bool is_sent;
-  std::string place;
-};
+// Element, index, byte before, key, byte behind it, place of what moves, text in the display (empty: the
+// name).
+using Key_Row = std::tuple<Picture_Box&, int, int, int, int, std::string, std::string>;
+// Element, index, place in the element, byte behind the move, whether it is sent, place of what moves.
+using Drag_Row = std::tuple<Picture_Box&, int, float, float, int, bool, std::string>;
 
 struct Editor_Fixture : Program {
   Editor_Fixture() {
@@ -68,32 +49,31 @@ struct Editor_Fixture : Program {
   }
   std::string Display() { return Editor.Tone_Name.text(); }
 
+  void Expect(int index, int value, const std::string& place, bool is_sent) {
+    EXPECT_EQ(Byte(index), value);
+    EXPECT_EQ(Place_Of(*Active_Ctl), place);
+    EXPECT_EQ(Sent(), is_sent ? Texts{Message(index, value)} : Texts{});
+    EXPECT_EQ(Tone_Saved, Flag_False);
+  }
   // Each row starts from its own byte, and every key sends.
   void Expect_Keys(const std::vector<Key_Row>& rows) {
-    for (const Key_Row& row : rows) {
-      SCOPED_TRACE(std::string(row.element.name) + " from " + Numbers({row.before}) + " by " +
-                   Numbers({row.key}));
-      Have(row.index, row.before);
-      Key_On(row.element, row.key);
-      EXPECT_EQ(Byte(row.index), row.after);
-      EXPECT_EQ(Place_Of(*Active_Ctl), row.place);
-      EXPECT_EQ(Display(), row.shown);
-      EXPECT_EQ(Sent(), Messages{Message(row.index, row.after)});
-      EXPECT_EQ(Tone_Saved, Flag_False);
+    for (const auto& [element, index, before, key, after, place, shown] : rows) {
+      SCOPED_TRACE(testing::Message() << element.name << " " << before << " " << key);
+      Have(index, before);
+      Key_On(element, key);
+      Expect(index, after, place, true);
+      EXPECT_EQ(Display(), shown);
     }
   }
   // Each row goes on from the one before; the move is from the place of the press or of the last move.
   void Expect_Drags(const std::vector<Drag_Row>& rows) {
-    for (const Drag_Row& row : rows) {
-      SCOPED_TRACE(std::string(row.element.name) + " to " + std::to_string(row.after));
-      Set_Focus(row.element);
+    for (const auto& [element, index, x, y, after, is_sent, place] : rows) {
+      SCOPED_TRACE(testing::Message() << element.name << " to " << after);
+      Set_Focus(element);
       Tone_Saved = Flag_True;
-      desktop.Move(row.element, 90, 90, 0);  // without a button it is nothing
-      desktop.Move(row.element, row.x, row.y);
-      EXPECT_EQ(Byte(row.index), row.after);
-      EXPECT_EQ(Place_Of(*Active_Ctl), row.place);
-      EXPECT_EQ(Sent(), row.is_sent ? Messages{Message(row.index, row.after)} : Messages{});
-      EXPECT_EQ(Tone_Saved, Flag_False);
+      desktop.Move(element, 90, 90, 0);  // without a button it is nothing
+      desktop.Move(element, x, y);
+      Expect(index, after, place, is_sent);
     }
   }
 };

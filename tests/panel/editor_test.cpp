@@ -13,31 +13,27 @@ TEST_F(Editor_Test, Tab_Walks_The_Elements_Each_With_Its_Parameter) {
     ASSERT_NE(Focused_Control(), nullptr);
     Sent();
     desktop.Key(Key::Home);
-    EXPECT_EQ(Sent(), Messages{Message(parameter, Tone[parameter])}) << Focused_Control()->name;
+    EXPECT_EQ(Sent(), Texts{Message(parameter, Tone[parameter])}) << Focused_Control()->name;
     desktop.Key(Key::Tab);
   }
   EXPECT_EQ(Focused_Control(), &Editor.ED_Seq_Start);
 }
 
 TEST_F(Editor_Test, A_Shown_Tone_Stands_In_Plain_Bands) {
-  struct Row {
-    int byte;
-    std::string tops;  // slider, upper and lower switch row, key follow, chorus, LFO waveform, VCA mode
-  };
-  for (const Row& row :
-       std::vector<Row>{{31, "213 62 308 418 418 397 162"},
-                        {127, "152 32 278 388 398 377 152"},
-                        // Beyond the range the rows of switches go to the top edge, the others stay.
-                        {128, "152 0 0 388 398 377 152"},
-                        {255, "72 0 0 388 398 377 152"}}) {
-    std::fill(Tone.bytes.begin() + Tone_First_Parameter, Tone.bytes.end(),
-              static_cast<std::uint8_t>(row.byte));
+  // Tops of slider, upper and lower switch row, key follow, chorus, LFO waveform, VCA mode.
+  for (const auto& [byte, tops] :
+       {std::pair{31, "213 62 308 418 418 397 162"},
+        {127, "152 32 278 388 398 377 152"},
+        // Beyond the range the rows of switches go to the top edge, the others stay.
+        {128, "152 0 0 388 398 377 152"},
+        {255, "72 0 0 388 398 377 152"}}) {
+    std::fill(Tone.bytes.begin() + Tone_First_Parameter, Tone.bytes.end(), static_cast<std::uint8_t>(byte));
     Tone_Show();
     EXPECT_EQ(Numbers({Editor.VCF_Keyfollow.top(), Editor.VCF_HPF.top(), Editor.VCA_Dynamics.top(),
                        Editor.ENV2_Keyfollow.top(), Editor.Chorus_Mode.top(), Editor.LFO_Waveform.top(),
                        Editor.VCA_Mode.top()}),
-              row.tops)
-        << row.byte;
+              tops)
+        << byte;
   }
   EXPECT_EQ(Editor.DCO1_Tune_Knopf.top(), 5) << "a byte beyond the range is no detune";
   Have(19, 120);

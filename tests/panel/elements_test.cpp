@@ -42,7 +42,7 @@ TEST_F(Elements, A_Press_Sends_The_Present_Value_But_Not_That_Of_A_Switch) {
   desktop.Press(Editor.DCO2_Tune);
   desktop.Press(Editor.VCA_Mode);  // turns over
   desktop.Move(Editor.VCA_Mode, 4, -60);
-  EXPECT_EQ(Sent(), (Messages{Message(47, 0), Message(19, 56), Message(58, 64)}));
+  EXPECT_EQ(Sent(), (Texts{Message(47, 0), Message(19, 56), Message(58, 64)}));
 }
 
 TEST_F(Elements, A_Drag_Sends_Each_Step_Of_A_Slider_Or_Knob) {

@@ -1,7 +1,5 @@
 #include "platform/drives.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/directories.h"
 #include "support/temporary_root.h"
 
@@ -33,7 +31,7 @@ TEST_F(Drives_Test, What_Cannot_Be_A_Path_Is_Refused) {
 }
 
 TEST_F(Drives_Test, The_Table_Follows_The_Users_Own_Directories) {
-  for (const char* directory : {".config", "Klänge", "portable"}) root.Make(directory);
+  for (const char* directory : {".config", "Klänge"}) root.Make(directory);
   root.Put(".config/user-dirs.dirs", "# comment\nXDG_MUSIC_DIR=\"$HOME/Klänge\"\nXDG_MUSIC_DIRX=\"/\"\n");
   const std::string home_before = getenv("HOME") == nullptr ? "" : getenv("HOME");
   setenv("HOME", root.host.c_str(), 1);
@@ -43,10 +41,6 @@ TEST_F(Drives_Test, The_Table_Follows_The_Users_Own_Directories) {
   EXPECT_EQ(Host_Path("M:\\"), Host("/Klänge"));
   Directories_Find("/usr/bin/melvor");
   EXPECT_EQ(Program_Directory(), "C:\\.config\\melvor");
-  root.Put("portable/MELVOR.FNT", "");
-  Directories_Find(Host("/portable/melvor"));
-  EXPECT_EQ(Program_Directory(), "C:\\portable");
-  EXPECT_EQ(Data_Directory(), Host("/portable"));
 }
 
 }  // namespace

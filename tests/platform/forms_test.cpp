@@ -1,8 +1,6 @@
 // Windows: how they load, change and go, and what the user's keys and mouse do in them.
 #include "platform/form.h"
 
-#include <gtest/gtest.h>
-
 #include "support/scripted_desktop.h"
 
 namespace {
@@ -91,17 +89,15 @@ TEST_F(Forms, Windows_Load_Change_And_Go_In_Order_And_Back_To_Their_Design) {
 }
 
 TEST_F(Forms, Keys_That_Nobody_Takes_Do_Their_Ordinary_Work) {
-  struct Row {
-    int code, shift;
-    std::string told;
-  };
-  for (const Row& row :
-       {Row{Key::Enter, 0, "ok click, "}, Row{Key::Tab, 0, "lost text, got ok, "},
-        Row{Key::Tab, Shift_Key, "lost ok, got text, "}, Row{'O', Alt_Key, "lost text, got ok, ok click, "},
-        Row{'N', Alt_Key, "lost ok, got text, "},  // a label's key goes to what follows it
-        Row{Key::Escape, 0, "cancel click, "}, Row{'C', Ctrl_Key, "close, "}}) {
-    EXPECT_TRUE(desktop.Key(row.code, row.shift));
-    EXPECT_EQ(Story(), row.told);
+  for (const auto& [code, shift, told] : {std::tuple{Key::Enter, 0, "ok click, "},
+                                          {Key::Tab, 0, "lost text, got ok, "},
+                                          {Key::Tab, Shift_Key, "lost ok, got text, "},
+                                          {'O', Alt_Key, "lost text, got ok, ok click, "},
+                                          {'N', Alt_Key, "lost ok, got text, "},  // goes behind the label
+                                          {Key::Escape, 0, "cancel click, "},
+                                          {'C', Ctrl_Key, "close, "}}) {
+    EXPECT_TRUE(desktop.Key(code, shift));
+    EXPECT_EQ(Story(), told);
   }
   EXPECT_FALSE(desktop.Key('N', 0, 'n')) << "a text field must see it";
   frame.file.enabled = false;

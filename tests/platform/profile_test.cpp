@@ -1,6 +1,4 @@
 // Settings in their file.
-#include <gtest/gtest.h>
-
 #include "platform/profile_file.h"
 #include "support/temporary_root.h"
 
@@ -31,40 +29,35 @@ TEST_F(Profile_Test, Values_Are_Found_Among_Noise) {
            "[unclosed\n"
            "After=still here\n"
            "[Grüße]\nEnd=no line end");
-  struct Row {
-    std::string section, key, value;
-  };
-  const Row rows[] = {{"First", "kEY", "value"},       {"First", ";Comment", "(default)"},
-                      {"Midi", "Input", "  quoted  "}, {"MIDI", "Equals", "a=b;c"},
-                      {"MIDI", "After", "still here"}, {"None", "Key", "(default)"},
-                      {"grüße", "end", "no line end"}};
-  for (const Row& row : rows) EXPECT_EQ(Get(row.section, row.key), row.value) << row.key;
+  for (const auto& [section, key, value] : {std::tuple{"First", "kEY", "value"},
+                                            {"First", ";Comment", "(default)"},
+                                            {"Midi", "Input", "  quoted  "},
+                                            {"MIDI", "Equals", "a=b;c"},
+                                            {"MIDI", "After", "still here"},
+                                            {"None", "Key", "(default)"},
+                                            {"grüße", "end", "no line end"}})
+    EXPECT_EQ(Get(section, key), value) << key;
 }
 
 TEST_F(Profile_Test, A_Write_Changes_Its_Value_And_No_Other_Byte) {
-  struct Row {
-    const char* what;
-    std::string before, section, key, value, after;
-  };
-  const Row rows[] = {
-      {"no file yet", "", "MIDI", "Channel", "3", "[MIDI]\nChannel=3\n"},
-      {"only the value", "x\r\n[midi]\r\n Channel = 1 \t\r\n\0\xFF\r\n"s, "MIDI", "CHANNEL", "16",
-       "x\r\n[midi]\r\n Channel = 16 \t\r\n\0\xFF\r\n"s},
-      {"behind the last key", "[A]\nk=1\n\n;of B\n[B]\n", "A", "n", "2", "[A]\nk=1\nn=2\n\n;of B\n[B]\n"},
-      {"a new section", "[A]\nk=1\n", "B", "n", "2", "[A]\nk=1\n\n[B]\nn=2\n"},
-      {"in the file's line ends", "[A]\r\nk=1", "A", "n", "2", "[A]\r\nk=1\r\nn=2\r\n"},
-      {"quotes as text", "[A]\nk=1\n", "A", "k", "\"x\"", "[A]\nk=\"\"x\"\"\n"},
-      {"one line only", "[A]\n", "A", "k", "x\r\n[B]\nk=2", "[A]\nk=x\n"},
-  };
-  for (const Row& row : rows) {
+  using Row = std::tuple<std::string, std::string, std::string, std::string, std::string>;
+  for (const auto& [before, section, key, value, after] :
+       {Row{"", "MIDI", "Channel", "3", "[MIDI]\nChannel=3\n"},
+        {"x\r\n[midi]\r\n Channel = 1 \t\r\n\0\xFF\r\n"s, "MIDI", "CHANNEL", "16",
+         "x\r\n[midi]\r\n Channel = 16 \t\r\n\0\xFF\r\n"s},
+        {"[A]\nk=1\n\n;of B\n[B]\n", "A", "n", "2", "[A]\nk=1\nn=2\n\n;of B\n[B]\n"},
+        {"[A]\nk=1\n", "B", "n", "2", "[A]\nk=1\n\n[B]\nn=2\n"},
+        {"[A]\r\nk=1", "A", "n", "2", "[A]\r\nk=1\r\nn=2\r\n"},
+        {"[A]\nk=1\n", "A", "k", "\"x\"", "[A]\nk=\"\"x\"\"\n"},
+        {"[A]\n", "A", "k", "x\r\n[B]\nk=2", "[A]\nk=x\n"}}) {
     std::filesystem::remove(root.host / "melvor.ini");
-    if (!row.before.empty()) root.Put("melvor.ini", row.before);
-    EXPECT_TRUE(Write_Profile_String(row.section, row.key, row.value, Path)) << row.what;
-    EXPECT_EQ(root.Get("melvor.ini"), row.after) << row.what;
+    if (!before.empty()) root.Put("melvor.ini", before);
+    EXPECT_TRUE(Write_Profile_String(section, key, value, Path)) << before;
+    EXPECT_EQ(root.Get("melvor.ini"), after);
   }
   for (const char* not_found_again : {"", "k=l", ";k", "[k", "a\nb"})
     EXPECT_FALSE(Write_Profile_String("A", not_found_again, "1", Path)) << not_found_again;
-  EXPECT_EQ(root.Get("melvor.ini"), std::end(rows)[-1].after);
+  EXPECT_EQ(root.Get("melvor.ini"), "[A]\nk=x\n");
 }
 
 TEST_F(Profile_Test, Every_Change_On_Disk_Is_Seen) {

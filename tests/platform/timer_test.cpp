@@ -1,7 +1,5 @@
 #include "platform/timer.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/runtime_error.h"
 #include "support/scripted_desktop.h"
 

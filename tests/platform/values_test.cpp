@@ -1,6 +1,4 @@
 // Numbers and texts: how they are rounded, read, compared and matched.
-#include <gtest/gtest.h>
-
 #include <climits>
 #include <cmath>
 
@@ -28,14 +26,14 @@ TEST(Text, Leading_Numbers_Stop_At_What_Is_None) {
 }
 
 TEST(Text, Forms_Match_Whole_Texts) {
-  struct Row {
-    const char *text, *form;
-    bool fits;
-  };
-  for (const Row& row :
-       {Row{"41 35 00 ", "41 35 ?? ", true}, Row{"41 35 00 F0", "41 35 ?? ", false},
-        Row{"ä:\\", "?:\\", true}, Row{"", "?", false}, Row{"A.SYX.SYX", "*.SYX", true},
-        Row{"A.SYX.OLD", "*.SYX", false}, Row{"", "*", true}, Row{"abcbcd", "a*bcd", true}}) {
-    EXPECT_EQ(Has_Form(row.text, row.form), row.fits) << row.text << " " << row.form;
+  for (const auto& [text, form, fits] : {std::tuple{"41 35 00 ", "41 35 ?? ", true},
+                                         {"41 35 00 F0", "41 35 ?? ", false},
+                                         {"ä:\\", "?:\\", true},
+                                         {"", "?", false},
+                                         {"A.SYX.SYX", "*.SYX", true},
+                                         {"A.SYX.OLD", "*.SYX", false},
+                                         {"", "*", true},
+                                         {"abcbcd", "a*bcd", true}}) {
+    EXPECT_EQ(Has_Form(text, form), fits) << text << " " << form;
   }
 }

@@ -11,9 +11,7 @@ struct Broken_Sequence : Sequencer_Test {
     Seq_Data.fill(9);
     Seq_Speed = 60;
     Seq_Base_Note = 36;
-    Seq_Range_Index = 1;
     Seq_Interval_Set();
-    Seq_File = "old";
     root.Put("a.seq", bytes);
     desktop.boxes.clear();
     if (!box.empty()) desktop.Expect_Box(Answer::Ok);
@@ -25,8 +23,7 @@ struct Broken_Sequence : Sequencer_Test {
     EXPECT_EQ(got, want) << what;
     EXPECT_EQ(MELVOR.Seq_Tmr.interval_ms(), Seq_Interval_ms(want[4])) << what;
     EXPECT_EQ(desktop.Last_Box(), box) << what;
-    EXPECT_EQ(Seq_Loaded == Flag_On && Seq_File == "C:\\a.seq", box.empty()) << what;
-    EXPECT_EQ(root.Get("a.seq"), bytes) << what;
+    EXPECT_EQ(Seq_Loaded == Flag_On, box.empty()) << what;
   }
 
   const std::string whole = "SEQ1\x78\x30" + std::string(104, '\x7F');
@@ -37,11 +34,10 @@ TEST_F(Broken_Sequence, A_Changed_Byte_Is_Taken_As_It_Stands_Or_The_File_Is_Refu
     std::string changed = whole;
     while (++changed[place] != whole[place]) {
       const bool other_head = place < 3 && (changed[place] ^ whole[place]) != 0x20;
-      Load(changed,
-           other_head        ? "Wrong SEQUENCE format!"
-           : changed[4] == 0 ? "Error 11: Division by zero"
-                             : "",
-           std::to_string(place));
+      const char* box = other_head        ? "Wrong SEQUENCE format!"
+                        : changed[4] == 0 ? "Error 11: Division by zero"
+                                          : "";
+      Load(changed, box, std::to_string(place));
     }
   }
   EXPECT_EQ(root.Names(), std::set<std::string>{"a.seq"});

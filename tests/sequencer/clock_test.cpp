@@ -1,4 +1,3 @@
-#include <set>
 
 #include "platform/chance.h"
 #include "sequencer/sequencer_fixture.h"
@@ -6,7 +5,6 @@
 namespace {
 
 using Steps = std::vector<int>;
-using Texts = std::vector<std::string>;
 
 TEST_F(Sequencer_Test, A_Tick_Sends_All_Rows_From_The_Top_Whatever_They_Hold) {
   MIDI_Channel = 16;
@@ -24,8 +22,8 @@ TEST_F(Sequencer_Test, A_Tick_Sends_All_Rows_From_The_Top_Whatever_They_Hold) {
 TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Silencing) {
   Seq_Saved = Flag_Off;
   desktop.Click(Editor.ED_Seq_Start);
-  service.Fail_Next(Midi_Operation::Out_Short, 5, 99);
-  desktop.on_other_box = [this](const Shown_Box&) {
+  service.Fail_Next("Out_Short", 5, 99);
+  desktop.on_other_box = [this] {
     desktop.Advance_ms(300);  // the next tick is due when the box has gone
     return Answer::Ok;
   };
@@ -38,21 +36,18 @@ TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Sile
 }
 
 TEST_F(Sequencer_Test, Each_Mode_Walks_Its_Way) {
-  const struct {
-    Play_Mode mode;
-    int step;  // -1 and 8: chosen as the clock has passed an end
-    Steps want;
-  } rows[] = {{Play_Mode::Forward, 0, {0, 1, 2, 3, 4, 5, 6, 7, 0, 1}},
-              {Play_Mode::Backward, 7, {7, 6, 5, 4, 3, 2, 1, 0, 7, 6}},
-              {Play_Mode::Bounce, 0, {0, 1, 2, 3, 4, 5, 6, 7, 6, 5, 4, 3, 2, 1, 0, 1, 2}},
-              {Play_Mode::Bounce, 8, {0, 1, 2, 3, 4, 5, 6, 7, 6}}};
   MIDI_Enabled = 0;
-  for (const auto& row : rows) {
-    Seq_Select_Mode(row.mode);
-    Seq_Step = row.step;
-    for (const int step : row.want) {
+  // From 8: chosen as the clock has passed the end.
+  for (const auto& [mode, start, want] :
+       {std::tuple{Play_Mode::Forward, 0, Steps{0, 1, 2, 3, 4, 5, 6, 7, 0, 1}},
+        {Play_Mode::Backward, 7, {7, 6, 5, 4, 3, 2, 1, 0, 7, 6}},
+        {Play_Mode::Bounce, 0, {0, 1, 2, 3, 4, 5, 6, 7, 6, 5, 4, 3, 2, 1, 0, 1, 2}},
+        {Play_Mode::Bounce, 8, {0, 1, 2, 3, 4, 5, 6, 7, 6}}}) {
+    Seq_Select_Mode(mode);
+    Seq_Step = start;
+    for (const int step : want) {
       Seq_Tick();
-      EXPECT_EQ(Seq_Prev_Step, step) << static_cast<int>(row.mode) << " from " << row.step;
+      EXPECT_EQ(Seq_Prev_Step, step) << static_cast<int>(mode) << " from " << start;
     }
   }
   EXPECT_EQ(Sent(), Texts()) << "without MIDI";
@@ -75,30 +70,25 @@ TEST_F(Sequencer_Test, Random_Modes_Reach_What_They_May) {
 }
 
 TEST_F(Sequencer_Test, Every_Way_To_Stop_Ends_Clock_And_Notes) {
-  const struct {
-    const char* name;
-    void (*stop)();
-    bool closes;
-  } rows[] = {{"Editor", ED_Seq_Stop_Click, true},
-              {"window", Seq_Stop_Click, true},
-              {"file dialog", Seq_Stop_Play, true},
-              {"tone menu", Seq_Stop_For_Tone_Menu, true},
-              {"setup", Seq_Stop_For_Setup, false},
-              {"close output", Menu_MIDI_CloseOutput, true},
-              {"closing the window", [] { Unload(Sequencer); }, false}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
+  using Row = std::tuple<const char*, void (*)(), bool>;
+  for (const auto& [name, stop, closes] : {Row{"Editor", ED_Seq_Stop_Click, true},
+                                           {"window", Seq_Stop_Click, true},
+                                           {"file dialog", Seq_Stop_Play, true},
+                                           {"tone menu", Seq_Stop_For_Tone_Menu, true},
+                                           {"setup", Seq_Stop_For_Setup, false},
+                                           {"close output", Menu_MIDI_CloseOutput, true},
+                                           {"closing the window", [] { Unload(Sequencer); }, false}}) {
+    SCOPED_TRACE(name);
     Seq_Data[0] = 127;
     Open_Window();
     desktop.Click(Sequencer.Seq_Start);
     desktop.Advance_ms(500);
-    row.stop();
+    stop();
     EXPECT_EQ(Sent().back(), "B0 7B 00");
     desktop.Advance_ms(1000);
     EXPECT_EQ(Sent(), Texts());
-    EXPECT_EQ(Seq_Running, Flag_Off);
-    EXPECT_EQ(Seq_Step, 0);
-    EXPECT_EQ(service.Out_Is_Open(), !row.closes);
+    EXPECT_TRUE(Seq_Running == Flag_Off && Seq_Step == 0);
+    EXPECT_EQ(service.Out_Is_Open(), !closes);
     Unload(Sequencer);
   }
 }

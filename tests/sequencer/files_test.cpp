@@ -2,6 +2,8 @@
 
 namespace {
 
+using Numbers = std::vector<int>;
+
 std::string File_Of(int speed, int base_note, char cell = 0) {
   return std::string("SEQ1") + static_cast<char>(speed) + static_cast<char>(base_note) +
          std::string(104, cell);
@@ -38,21 +40,19 @@ TEST_F(Sequencer_Test, A_Saved_File_Has_Head_Tempo_Base_Note_And_Cells_And_Keeps
 
 TEST_F(Sequencer_Test, A_File_Is_Taken_As_It_Stands) {
   const std::string good = File_Of(60, 48, 7);
-  const struct {
-    std::string bytes;
-    int speed, base_note, range;
-  } rows[] = {{good + "x", 60, 48, 2},           {"seq\xFF" + good.substr(4), 60, 48, 2},
-              {File_Of(200, 40, 7), 120, 40, 1}, {File_Of(1, 0, 7), 1, 0, 2},
-              {File_Of(30, 30, 7), 30, 30, 0},   {File_Of(30, 42, 7), 30, 42, 2},
-              {File_Of(30, 84, 7), 30, 84, 5}};
-  for (const auto& row : rows) {
+  // Tempo, base note and range.
+  for (const auto& [bytes, want] : {std::pair{good + "x", Numbers{60, 48, 2}},
+                                    {"seq\xFF" + good.substr(4), {60, 48, 2}},
+                                    {File_Of(200, 40, 7), {120, 40, 1}},
+                                    {File_Of(1, 0, 7), {1, 0, 2}},
+                                    {File_Of(30, 30, 7), {30, 30, 0}},
+                                    {File_Of(30, 42, 7), {30, 42, 2}},
+                                    {File_Of(30, 84, 7), {30, 84, 5}}}) {
     Seq_Clear();
-    root.Put("a.seq", row.bytes);
+    root.Put("a.seq", bytes);
     Seq_Load("c:\\a.seq", Load_Mode::Open);
     EXPECT_EQ(Seq_Data[103], 7);
-    EXPECT_EQ(Seq_Speed, row.speed);
-    EXPECT_EQ(Seq_Base_Note, row.base_note);
-    EXPECT_EQ(Seq_Range_Index, row.range) << row.base_note;
+    EXPECT_EQ((Numbers{Seq_Speed, Seq_Base_Note, Seq_Range_Index}), want);
   }
   desktop.Expect_Box(Answer::Ok, "File not found: c:\\gone.seq");
   Seq_Load("c:\\gone.seq", Load_Mode::Open);
@@ -85,25 +85,21 @@ TEST_F(Sequencer_Test, New_And_Open_Ask_About_An_Edited_Matrix) {
     Seq_Save();
     FD_Done = Flag_On;
   };
-  const struct {
-    Answer answer;
-    bool saves, goes_on;
-  } rows[] = {{Answer::Cancel, false, false},
-              {Answer::No, false, true},
-              {Answer::Yes, true, true},
-              {Answer::Yes, false, false}};
-  for (const auto& row : rows) {
+  for (const auto& [answer, saves, goes_on] : {std::tuple{Answer::Cancel, false, false},
+                                               {Answer::No, false, true},
+                                               {Answer::Yes, true, true},
+                                               {Answer::Yes, false, false}}) {
     for (const bool is_new : {true, false}) {
       Seq_Data[0] = 127;
       Seq_Saved = Flag_Off;
       Dlg_Kind.clear();
-      dialog_saves = row.saves;
-      desktop.Expect_Box(row.answer, "Save actual SEQUENCE first?");
-      const bool is_told = is_new && row.answer == Answer::Yes && !row.saves;
+      dialog_saves = saves;
+      desktop.Expect_Box(answer, "Save actual SEQUENCE first?");
+      const bool is_told = is_new && answer == Answer::Yes && !saves;
       if (is_told) desktop.Expect_Box(Answer::Ok, "Sequence not saved.");
       is_new ? Menu_File_Seq_New() : Menu_File_Seq_Open();
-      EXPECT_EQ(Dlg_Kind == "Open_SEQ", !is_new && row.goes_on);
-      EXPECT_EQ(Seq_Data[0] == 0, is_new && row.goes_on);
+      EXPECT_EQ(Dlg_Kind == "Open_SEQ", !is_new && goes_on);
+      EXPECT_EQ(Seq_Data[0] == 0, is_new && goes_on);
       Unload(File_Dlg);
     }
   }

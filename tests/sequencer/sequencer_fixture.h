@@ -1,9 +1,6 @@
 // The program with its Editor shown, an empty sequence at base note 48, and a drive C: of its own.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "core/recent.h"
 #include "core/settings.h"
 #include "panel/editor.h"

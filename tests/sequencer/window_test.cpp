@@ -2,8 +2,6 @@
 
 namespace {
 
-using Texts = std::vector<std::string>;
-
 TEST_F(Sequencer_Test, Opening_Sends_All_Notes_Off_And_Resets_Transposition_And_Direction) {
   Seq_Base_Note = 53;
   Menu_MIDI_Seq();
@@ -72,8 +70,7 @@ TEST_F(Sequencer_Test, Without_MIDI_Or_A_Sequence_Nothing_Starts) {
 
 TEST_F(Sequencer_Test, Keys_Play_Until_The_Right_Button) {
   Open_Window();
-  desktop.Press(Sequencer.Seq_Keys[1]);
-  desktop.Release(Sequencer.Seq_Keys[1]);
+  desktop.Click(Sequencer.Seq_Keys[1]);
   desktop.Click(Sequencer.Seq_Keys[12], Right_Button);
   MIDI_Enabled = 0;
   for (Picture_Box* key : {&Sequencer.Seq_Keys[0], &Editor.Keys_Pic}) desktop.Click(*key);

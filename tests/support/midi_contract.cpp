@@ -2,29 +2,6 @@
 
 #include <chrono>
 #include <thread>
-#include <utility>
-
-#include "recording_service.h"
-
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Midi_Contract);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Midi_Hold_Contract);
-GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Midi_Unplug_Contract);
-
-namespace {
-
-constexpr std::chrono::seconds Patience(20);
-constexpr std::chrono::milliseconds Look_Again(1);
-constexpr std::uint32_t Note = 0x403C90;
-
-// Ten bytes with a number in them.
-Byte_String Numbered(int number) {
-  Byte_String bytes = Bytes_Of("F0 41 36 00 21 20 01 00 00 F7");
-  bytes[7] = static_cast<char>(number / 128);
-  bytes[8] = static_cast<char>(number % 128);
-  return bytes;
-}
-
-}  // namespace
 
 Byte_String Dump_Message(int number) {
   Byte_String bytes = Bytes_Of("F0 41 35 00 21 20 01");
@@ -37,26 +14,21 @@ Byte_String Name_Message() {
 }
 
 bool Await(const std::function<bool()>& condition) {
-  const auto end = std::chrono::steady_clock::now() + Patience;
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
   while (!condition()) {
     if (std::chrono::steady_clock::now() > end) return false;
-    std::this_thread::sleep_for(Look_Again);
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
   return true;
 }
 
-int Find_Output(Midi_Service& service, const std::string& name) {
+std::int32_t Open_Output(Midi_Service& service, const std::string& name) {
+  std::int32_t handle = -1;
   MIDI_Out_Caps caps;
-  int device = service.Out_Count() - 1;
-  while (device >= 0 && (service.Out_Caps(device, caps) != Midi_Ok || name != caps.name.data())) --device;
-  return device;
-}
-
-int Find_Input(Midi_Service& service, const std::string& name) {
-  MIDI_In_Caps caps;
-  int device = service.In_Count() - 1;
-  while (device >= 0 && (service.In_Caps(device, caps) != Midi_Ok || name != caps.name.data())) --device;
-  return device;
+  for (int device = 0; service.Out_Caps(device, caps) == Midi_Ok; ++device) {
+    if (name == caps.name.data() && service.Out_Open(handle, device) == Midi_Ok) return handle;
+  }
+  return -1;
 }
 
 int Send_Long(Midi_Service& service, std::int32_t handle, const Byte_String& bytes) {
@@ -75,126 +47,55 @@ int Close_Output(Midi_Service& service, std::int32_t handle) {
   return code;
 }
 
-void Midi_Rig_Test::SetUp() {
-  rig = GetParam().make();
-  const int device = Find_Output(rig->Service(), rig->Device_Name());
-  ASSERT_EQ(rig->Service().Out_Open(handle, device), Midi_Ok) << rig->Device_Name();
-}
-
-void Midi_Rig_Test::TearDown() {
-  rig->Release();
-  if (handle > 0) Close();
-}
-
-int Midi_Rig_Test::Long(const Byte_String& bytes) { return Send_Long(rig->Service(), handle, bytes); }
-
-void Midi_Rig_Test::Send(const Byte_String& bytes) {
-  int code = Midi_Not_Ready;
-  EXPECT_TRUE(Await([&] { return (code = Long(bytes)) != Midi_Not_Ready; }));
-  EXPECT_EQ(code, Midi_Ok);
-}
-
-void Midi_Rig_Test::Close() {
-  EXPECT_EQ(Close_Output(rig->Service(), handle), Midi_Ok);
-  handle = -1;
-}
-
-void Midi_Rig_Test::Expect(const Byte_String& bytes) {
-  EXPECT_EQ(Hex_Text(rig->Received(bytes.size())), Hex_Text(bytes));
-}
-
-TEST_P(Midi_Contract, Odd_Messages_Arrive_Byte_For_Byte) {
-  const Byte_String large = "\xF0" + Byte_String(1500, '\x11') + "\xF7";
-  Send(Dump_Message(0));
-  EXPECT_EQ(Long(Name_Message()), Midi_Ok);
-  EXPECT_EQ(Long({}), Midi_Ok);
-  EXPECT_EQ(Short(0x7F3C00), Midi_Ok) << "no status byte: goes nowhere";
-  EXPECT_EQ(Short(0x7F3C7F), Midi_Ok);
-  EXPECT_EQ(Short(0x7F3C9F), Midi_Ok);
-  EXPECT_EQ(Short(0x6305C2), Midi_Ok) << "two bytes by its status";
-  EXPECT_EQ(Long(Bytes_Of("41")), Midi_Ok) << "a lone data byte";
-  Send(large);
-  Expect(Dump_Message(0) + Name_Message() + Bytes_Of("9F 3C 7F C2 05 41") + large);
-}
-
-TEST_P(Midi_Contract, Messages_Keep_Their_Order_And_A_Close_Delivers_Them) {
+void Expect_Contract(Midi_Service& service, const std::string& name,
+                     const std::function<Byte_String(std::size_t count)>& received) {
+  const std::int32_t handle = Open_Output(service, name);
   Byte_String want;
-  for (int i = 0; i < 200; ++i) {
-    Send(Numbered(i));
-    EXPECT_EQ(Short(0x010090U + static_cast<unsigned>(i % 128) * 256), Midi_Ok);
-    want += Numbered(i) + Byte_String{'\x90', static_cast<char>(i % 128), '\x01'};
+  const auto send = [&](const Byte_String& bytes) {
+    EXPECT_TRUE(Await([&] { return Send_Long(service, handle, bytes) == Midi_Ok; }));
+    want += bytes;
+  };
+  for (const Byte_String& bytes : {Dump_Message(0), Name_Message(), Byte_String()}) send(bytes);
+  // No status byte: goes nowhere. Two bytes by its status.
+  for (const unsigned message : {0x7F3C00U, 0x7F3C7FU, 0x7F3C9FU, 0x6305C2U})
+    EXPECT_EQ(service.Out_Short(handle, message), Midi_Ok);
+  want += Bytes_Of("9F 3C 7F C2 05");
+  send("\x41");
+  send("\xF0" + Byte_String(1500, '\x11') + "\xF7");
+  for (int i = 0; i < 100; ++i) {
+    send(Bytes_Of("F0 41 36 00 21 20 01 00 ") + static_cast<char>(i) + '\xF7');
+    EXPECT_EQ(service.Out_Short(handle, 0x010090U + static_cast<unsigned>(i) * 256), Midi_Ok);
+    want += Byte_String{'\x90', static_cast<char>(i), '\x01'};
   }
-  Close();
-  Expect(want);
-}
-
-// Long messages are taken while fewer than 1,024 bytes wait, short ones while fewer than 4,096 do.
-TEST_P(Midi_Hold_Contract, A_Full_Output_Answers_67_Its_Close_65_And_Nothing_Is_Lost) {
-  Send(Numbered(0));
-  Expect(Numbered(0));
-  rig->Hold();
-  Byte_String want;
-  int taken = 0;
-  for (; Long(Numbered(taken)) == Midi_Ok && taken < 10'000; ++taken) want += Numbered(taken);
-  EXPECT_EQ(taken, 103);
-  for (taken = 0; Short(Note) == Midi_Ok && taken < 10'000; ++taken) want += Bytes_Of("90 3C 40");
-  EXPECT_EQ(taken, 1022);
-  EXPECT_EQ(Short(Note), Midi_Not_Ready);
-  EXPECT_EQ(rig->Service().Out_Close(handle), Midi_Still_Playing);
-  rig->Release();
-  Expect(want);
-  Send(Numbered(1));  // it is still open
-  Expect(Numbered(1));
-}
-
-TEST_P(Midi_Unplug_Contract, A_Port_That_Goes_Is_Told_By_Code) {
-  Send(Numbered(0));
-  Expect(Numbered(0));
-  Send(Dump_Message(0));
-  rig->Unplug();
-  EXPECT_EQ(Long(Numbered(1)), Midi_No_Device);
-  EXPECT_EQ(Short(Note), Midi_No_Device);
-  Close();
-  rig->Service().Refresh();
-  EXPECT_EQ(Find_Output(rig->Service(), rig->Device_Name()), -1);
+  EXPECT_EQ(Close_Output(service, handle), Midi_Ok);
+  EXPECT_EQ(Hex_Text(received(want.size())), Hex_Text(want));
 }
 
 void Post_Desktop::Post(std::function<void()> fn) {
   const std::lock_guard lock(mutex_);
   posts_.push_back(std::move(fn));
-  changed_.notify_all();
-}
-
-bool Post_Desktop::Run_Until(const std::function<bool()>& condition) {
-  const auto end = std::chrono::steady_clock::now() + Patience;
-  std::unique_lock lock(mutex_);
-  while (!condition()) {
-    if (!changed_.wait_until(lock, end, [this] { return !posts_.empty(); })) return false;
-    const std::function<void()> post = std::move(posts_.front());
-    posts_.pop_front();
-    lock.unlock();
-    post();
-    lock.lock();
-  }
-  return true;
 }
 
 void Post_Desktop::Run_Posts() {
-  bool ran = false;
-  Post([&ran] { ran = true; });
-  EXPECT_TRUE(Run_Until([&ran] { return ran; }));
+  std::unique_lock lock(mutex_);
+  const auto posts = std::exchange(posts_, {});
+  lock.unlock();
+  for (const auto& post : posts) post();
 }
 
-Test_Input::Test_Input(Midi_Service& service, int device) : service_(service) {
+Test_Input::Test_Input(Midi_Service& service, const std::string& name) : service_(service) {
   const auto receive = [this](MIDI_Header& header) {
     received.push_back(header.data);
     EXPECT_EQ(service_.In_Add_Buffer(handle, header), Midi_Ok);
   };
-  EXPECT_EQ(service_.In_Open(handle, device, receive), Midi_Ok);
+  MIDI_In_Caps caps;
+  int device = 0;
+  while (service.In_Caps(device, caps) == Midi_Ok && name != caps.name.data()) ++device;
+  EXPECT_EQ(service.In_Open(handle, device, receive), Midi_Ok);
   for (MIDI_Header& header : headers_) {
     header.buffer_length = 10'000;
-    EXPECT_EQ(service_.In_Prepare(handle, header), Midi_Ok);
-    EXPECT_EQ(service_.In_Add_Buffer(handle, header), Midi_Ok);
+    EXPECT_EQ(service.In_Prepare(handle, header), Midi_Ok);
+    EXPECT_EQ(service.In_Add_Buffer(handle, header), Midi_Ok);
   }
-  EXPECT_EQ(service_.In_Start(handle), Midi_Ok);
+  EXPECT_EQ(service.In_Start(handle), Midi_Ok);
 }

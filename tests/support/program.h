@@ -1,8 +1,6 @@
 // Desktop, MIDI service and module state of one test: as the program stands after its start, output closed.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "core/records.h"
 #include "core/sysex.h"
 #include "core/tone_params.h"
@@ -17,7 +15,6 @@
 
 struct Program : testing::Test {
   Program() {
-    Install_Midi_Service(&service);
     MIDI_Enabled = 1;
     Autosend = 1;
     MIDI_Channel = 1;
@@ -31,10 +28,9 @@ struct Program : testing::Test {
     Tone_Loading = Flag_Off;
     Tone_Clear();
   }
-  ~Program() override { Install_Midi_Service(nullptr); }
 
   // What went over the wire since the last call, a text of hexadecimal numbers a message.
-  std::vector<std::string> Sent() { return service.Take_Hex(); }
+  Texts Sent() { return service.Take_Hex(); }
 
   Scripted_Desktop desktop;
   Recording_Service service;

@@ -1,7 +1,5 @@
 #include "support/scripted_desktop.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <stdexcept>
 
@@ -9,15 +7,7 @@
 #include "platform/timer.h"
 
 Scripted_Desktop::~Scripted_Desktop() {
-  EXPECT_TRUE(expected.empty()) << expected.size()
-                                << " expected box(es) never came, first: " << expected.front().text;
-  EXPECT_TRUE(at_wait.empty()) << at_wait.size() << " step(s) for a wait were never reached";
-  Take_Changes();
-}
-
-void Scripted_Desktop::Take_Changes() {
-  for (Component* component : changed) component->Shown();
-  changed.clear();
+  EXPECT_EQ(expected.size() + at_wait.size(), 0U) << "box(es) or step(s) for a wait that never came";
 }
 
 void Scripted_Desktop::Run_Timers_Until(std::int64_t time_us) {
@@ -34,24 +24,18 @@ void Scripted_Desktop::Advance_ms(int milliseconds) {
   now_us = end_us;
 }
 
-void Scripted_Desktop::Expect_Box(Answer answer, std::string text) {
-  expected.push_back({answer, std::move(text)});
-}
-
-Answer Scripted_Desktop::Message_Box(std::string_view text, int style, std::string_view title) {
+Answer Scripted_Desktop::Message_Box(std::string_view text, int, std::string_view) {
   if (quit) return Answer::Cancel;
-  boxes.push_back({std::string(text), style, std::string(title)});
-  if (expected.empty() && on_other_box) return on_other_box(boxes.back());
+  boxes.emplace_back(text);
+  if (expected.empty() && on_other_box) return on_other_box();
   if (expected.empty()) {
     ADD_FAILURE() << "unexpected box: " << text;
     return Answer::Cancel;
   }
-  const Expected_Box box = expected.front();
+  const auto [answer, want] = expected.front();
   expected.pop_front();
-  if (!box.text.empty()) {
-    EXPECT_EQ(box.text, text);
-  }
-  return box.answer;
+  EXPECT_EQ(text, want.empty() ? text : want);
+  return answer;
 }
 
 void Scripted_Desktop::Run_Posts() {
@@ -63,7 +47,6 @@ void Scripted_Desktop::Run_Posts() {
 }
 
 void Scripted_Desktop::Run_Events(Event_Set) {
-  ++events_run;
   Run_Posts();
   Run_Timers_Until(now_us);
 }
@@ -77,11 +60,6 @@ void Scripted_Desktop::Wait_Events() {
   }
   if (wake_us < 0) throw std::logic_error("the program waits for what will never come");
   Run_Timers_Until(wake_us);
-}
-
-bool Scripted_Desktop::Play_System_Sound(std::string_view alias) {
-  sounds.emplace_back(alias);
-  return sound_scheme;
 }
 
 bool Scripted_Desktop::Add_Font(std::string_view host_path) {
@@ -102,13 +80,9 @@ void Scripted_Desktop::Move(Control& control, float x, float y, int buttons) {
   Mouse_Move(control, {buttons, 0, x, y});
 }
 
-void Scripted_Desktop::Release(Control& control, int button, float x, float y) {
-  Mouse_Up(control, {button, 0, x, y}, true);
-}
-
 void Scripted_Desktop::Click(Control& control, int button) {
   Press(control, button);
-  Release(control, button);
+  Mouse_Up(control, {button, 0, 4, 4}, true);
 }
 
 void Scripted_Desktop::Double_Click(Control& control) {
@@ -116,27 +90,12 @@ void Scripted_Desktop::Double_Click(Control& control) {
   Mouse_Double(control, {Left_Button, 0, 4, 4});
 }
 
-void Scripted_Desktop::Drag(Control& control, std::initializer_list<float> ys, int button) {
-  Press(control, button);
-  for (const float y : ys) Move(control, 4, y, button);
-  Release(control, button);
-}
-
 bool Scripted_Desktop::Key(int code, int shift, int character) {
   Form* form = Active_Form() != nullptr ? Active_Form() : Frame_Form();
-  if (form == nullptr) {
-    ADD_FAILURE() << "a key without a window";
-    return false;
-  }
   return Key_Down(*form, Focused_Control(), {code, shift}, character);
 }
 
 void Scripted_Desktop::Type(Text_Box& box, const std::string& text) {
   User_Focused(box);
   User_Typed(box, text, static_cast<int>(text.size()), 0);
-}
-
-void Scripted_Desktop::Choose_Menu(Menu_Item& item) {
-  EXPECT_TRUE(Can_Choose(item)) << item.name << " cannot be chosen";
-  Choose(item);
 }

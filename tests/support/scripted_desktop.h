@@ -2,21 +2,16 @@
 // as verbs. It refuses misuse: a box that nobody expected, or a wait that nothing can end, fails the test.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <functional>
 #include <initializer_list>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "platform/input.h"
 #include "support/still_desktop.h"
-
-struct Shown_Box {
-  std::string text;
-  int style = 0;
-  std::string title;
-};
 
 struct Scripted_Desktop final : Still_Desktop {
   ~Scripted_Desktop() override;
@@ -25,24 +20,20 @@ struct Scripted_Desktop final : Still_Desktop {
   void Advance_ms(int milliseconds);
 
   // The next box, in the order of these calls, must have the text (empty: any) and gets the answer.
-  void Expect_Box(Answer answer, std::string text = {});
+  void Expect_Box(Answer answer, const std::string& text = {}) { expected.push_back({answer, text}); }
   // Answers the boxes that nobody expected; without it they fail the test.
-  std::function<Answer(const Shown_Box&)> on_other_box;
-  std::vector<Shown_Box> boxes;  // all that were shown
-  std::string Last_Box() const { return boxes.empty() ? std::string() : boxes.back().text; }
+  std::function<Answer()> on_other_box;
+  std::vector<std::string> boxes;  // the texts of all that were shown
+  std::string Last_Box() const { return boxes.empty() ? std::string() : boxes.back(); }
 
   // The user's hand. Places are in pixels of the control.
   void Press(Control& control, int button = Left_Button, float x = 4, float y = 4);
   void Move(Control& control, float x, float y, int buttons = Left_Button);
-  void Release(Control& control, int button = Left_Button, float x = 4, float y = 4);
   void Click(Control& control, int button = Left_Button);
   void Double_Click(Control& control);
-  // Press, a move to each of the heights, release.
-  void Drag(Control& control, std::initializer_list<float> ys, int button = Left_Button);
   // A key in the active form. True if it was used up.
   bool Key(int code, int shift = 0, int character = 0);
   void Type(Text_Box& box, const std::string& text);  // replaces the text
-  void Choose_Menu(Menu_Item& item);
 
   // What the user does while the program waits (Dlg_Wait, previews): one step at each wait.
   void At_Wait(std::function<void()> step) { at_wait.push_back(std::move(step)); }
@@ -52,44 +43,27 @@ struct Scripted_Desktop final : Still_Desktop {
   void Run_Events(Event_Set set) override;
   void Wait_Events() override;
   void Quit() override { quit = true; }
-  void Beep() override { ++beeps; }
-  bool Play_System_Sound(std::string_view alias) override;
   Size_px Screen_Size() override { return screen; }
   int Pixels_Per_Inch() override { return pixels_per_inch; }
   bool Add_Font(std::string_view host_path) override;
   int Remove_Font(std::string_view host_path) override;
-  void Changed(Component& component) override { changed.insert(&component); }
-  void Forget(Component& component) override { changed.erase(&component); }
   std::int64_t Now_us() override { return now_us; }
   void Wake_At_us(std::int64_t time_us) override { wake_us = time_us; }
   void Post(std::function<void()> fn) override { posts.push_back(std::move(fn)); }
 
-  // The views are up to date: from now on `changed` collects anew.
-  void Take_Changes();
-
   Size_px screen{1280, 1024};
   int pixels_per_inch = 96;
-  bool sound_scheme = true;
   bool fonts_load = true;
   int remove_font_error = 0;
   std::vector<std::string> fonts;
-  std::vector<std::string> sounds;
-  int beeps = 0;
   bool quit = false;
-  std::set<Component*> changed;
-  int events_run = 0;  // how often pending events were let run
 
  private:
-  struct Expected_Box {
-    Answer answer;
-    std::string text;
-  };
   void Run_Posts();
   void Run_Timers_Until(std::int64_t time_us);
 
   std::int64_t now_us = 0;
   std::int64_t wake_us = -1;
-  std::deque<Expected_Box> expected;
-  std::deque<std::function<void()>> posts;
-  std::deque<std::function<void()>> at_wait;
+  std::deque<std::pair<Answer, std::string>> expected;
+  std::deque<std::function<void()>> posts, at_wait;
 };

@@ -1,7 +1,8 @@
 // A directory of its own that is drive C: while it lives, for tests of whatever reads and writes files.
 #pragma once
 
-#include <cstdint>
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -26,9 +27,6 @@ struct Temporary_Root {
     if (!file.flush()) throw std::runtime_error("cannot write " + name);
   }
   void Make(const std::string& name) { std::filesystem::create_directories(host / name); }
-  void Link(const std::string& target, const std::string& name) {
-    std::filesystem::create_symlink(target, host / name);
-  }
 
   // "(none)" if there is no such file.
   std::string Get(const std::string& name) const {
@@ -48,15 +46,10 @@ struct Temporary_Root {
   const std::filesystem::path host;
 
  private:
-  // In memory where there is plenty, so that the many flushes of the saves do not wait for a disk.
+  // In memory, so that the many flushes of the saves do not wait for a disk.
   static std::filesystem::path Make_Directory() {
-    constexpr std::uintmax_t Plenty = 256u << 20;
-    const std::filesystem::path memory = "/dev/shm";
-    std::error_code error;
-    const auto space = std::filesystem::space(memory, error);
-    const bool fast = !error && space.available >= Plenty;
-    std::string form =
-        ((fast ? memory : std::filesystem::temp_directory_path()) / "melvor-test-XXXXXX").string();
+    std::string form = std::filesystem::exists("/dev/shm") ? "/dev/shm/" : "/tmp/";
+    form += "melvor-test-XXXXXX";
     if (mkdtemp(form.data()) == nullptr) throw std::runtime_error("cannot make " + form);
     return std::filesystem::canonical(form);
   }

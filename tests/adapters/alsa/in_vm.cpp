@@ -1,27 +1,25 @@
 // The ALSA backend against the kernel's sequencer, as root in a virtual machine (run_in_vm.sh).
 #include <alsa/asoundlib.h>
-#include <gtest/gtest.h>
-
 #include <fstream>
-#include <memory>
+#include <optional>
 
 #include "adapters/alsa/alsa_backend.h"
 #include "adapters/midi/service.h"
 #include "support/midi_contract.h"
-#include "support/recording_service.h"
 
 namespace {
 
 constexpr const char* Synth_Name = "Test Synth MIDI 1";
+constexpr const char* Plug = "/config/usb_gadget/synth/UDC";  // of the cable: takes what it goes into
 constexpr int Usual_Cells = 200;  // that the kernel keeps for a client until it reads
 constexpr int Largest_Cells = 2000;
 
 // At the other end is a software client of the sequencer, "Listener", with one port "in".
-struct Software_Rig final : Midi_Rig {
+struct Software_Rig {
   Alsa::Alsa_Backend backend;
   Midi::Service service{{&backend}};
 
-  explicit Software_Rig(int cells = Largest_Cells) {
+  explicit Software_Rig(int cells) {
     snd_seq_open(&listener_, "default", SND_SEQ_OPEN_INPUT, SND_SEQ_NONBLOCK);
     snd_seq_set_client_name(listener_, "Listener");
     snd_seq_set_client_pool_input(listener_, static_cast<std::size_t>(cells));
@@ -29,11 +27,9 @@ struct Software_Rig final : Midi_Rig {
                                SND_SEQ_PORT_TYPE_MIDI_GENERIC);
     service.Refresh();
   }
-  ~Software_Rig() override { snd_seq_close(listener_); }
+  ~Software_Rig() { snd_seq_close(listener_); }
 
-  Midi_Service& Service() override { return service; }
-  std::string Device_Name() override { return "Listener in"; }
-  Byte_String Received(std::size_t count) override {
+  Byte_String Received(std::size_t count) {
     Byte_String bytes;
     Await([&] { return (bytes += Read()).size() >= count; });
     return bytes;
@@ -57,13 +53,8 @@ struct Software_Rig final : Midi_Rig {
 
 // The instrument's end of the cable of the interface "Test Synth", as raw MIDI.
 struct Cable_End {
-  Cable_End() { Plug(); }
-  ~Cable_End() { Unplug(); }
-  Cable_End(const Cable_End&) = delete;
-  Cable_End& operator=(const Cable_End&) = delete;
-
-  void Plug() {
-    ASSERT_GE(snd_rawmidi_open(&in_, &out_, "hw:fmidi,0", 0), 0);
+  Cable_End() {
+    EXPECT_GE(snd_rawmidi_open(&in_, &out_, "hw:fmidi,0", 0), 0);
     snd_rawmidi_params_t* params = nullptr;
     snd_rawmidi_params_alloca(&params);
     snd_rawmidi_params_current(in_, params);
@@ -78,10 +69,13 @@ struct Cable_End {
     char byte = 0;
     snd_rawmidi_read(in_, &byte, 0);  // starts the input
   }
-  void Unplug() {
+  ~Cable_End() {
     snd_rawmidi_close(in_);
     snd_rawmidi_close(out_);
   }
+  Cable_End(const Cable_End&) = delete;
+  Cable_End& operator=(const Cable_End&) = delete;
+
   Byte_String Received(std::size_t count) {
     Byte_String bytes;
     char byte = 0;
@@ -101,29 +95,18 @@ struct Cable_End {
   snd_rawmidi_t* out_ = nullptr;
 };
 
-const Rig_Maker Over_Software{"Software_Client", [] { return std::make_unique<Software_Rig>(); }};
-MIDI_RIGS(Midi_Contract, Over_Software);
-
 struct Usb_Test : testing::Test {
   void SetUp() override {
-    ASSERT_TRUE(Await([this] { return Is_Listed(); }));
-    ASSERT_EQ(service.Out_Open(handle, Find_Output(service, Synth_Name)), Midi_Ok);
+    EXPECT_TRUE(Await([this] {
+      service.Refresh();
+      return (handle = Open_Output(service, Synth_Name)) > 0;
+    }));
   }
   void TearDown() override { EXPECT_EQ(Close_Output(service, handle), Midi_Ok); }
 
-  bool Is_Listed() {
-    service.Refresh();
-    return Find_Output(service, Synth_Name) >= 0;
-  }
-  void Plug_Cable(bool in) {
-    std::ofstream udc("/config/usb_gadget/synth/UDC");
-    udc << (in ? "dummy_udc.0" : "") << std::endl;
-    ASSERT_TRUE(udc.good());
-  }
-
   Alsa::Alsa_Backend backend;
   Midi::Service service{{&backend}};
-  Cable_End instrument;
+  std::optional<Cable_End> instrument{std::in_place};
   std::int32_t handle = -1;
 };
 
@@ -141,46 +124,48 @@ TEST_F(Usb_Test, It_Stands_First_And_Messages_Arrive_Byte_For_Byte) {
   }
   EXPECT_EQ(service.Out_Short(handle, 0x7F3C90), Midi_Ok);
   want += Bytes_Of("90 3C 7F");
-  EXPECT_EQ(Hex_Text(instrument.Received(want.size())), Hex_Text(want));
+  EXPECT_EQ(Hex_Text(instrument->Received(want.size())), Hex_Text(want));
 }
 
 TEST_F(Usb_Test, Unplugged_It_Is_Told_And_Plugged_In_Found_Again) {
-  Plug_Cable(false);
+  std::ofstream(Plug) << std::endl;
   EXPECT_TRUE(Await([this] { return service.Out_Short(handle, 0x403C90) == Midi_No_Device; }));
   EXPECT_EQ(service.Out_Close(handle), Midi_Ok);
-  EXPECT_TRUE(Await([this] { return !Is_Listed(); }));
-  instrument.Unplug();
-  Plug_Cable(true);
-  instrument.Plug();
+  EXPECT_TRUE(Await([this] {
+    service.Refresh();
+    return Open_Output(service, Synth_Name) < 0;
+  }));
+  instrument.reset();
+  std::ofstream(Plug) << "dummy_udc.0" << std::endl;
+  instrument.emplace();
   SetUp();
   EXPECT_EQ(Send_Long(service, handle, Dump_Message(2)), Midi_Ok);
-  EXPECT_EQ(Hex_Text(instrument.Received(88)), Hex_Text(Dump_Over_Usb(2)));
+  EXPECT_EQ(Hex_Text(instrument->Received(88)), Hex_Text(Dump_Over_Usb(2)));
 }
 
 // The kernel hands a long message over in pieces of 256 bytes.
 TEST_F(Usb_Test, An_Input_Joins_What_Comes_In_Pieces) {
   Post_Desktop desktop;
-  Test_Input input(service, Find_Input(service, Synth_Name));
+  Test_Input input(service, Synth_Name);
   const Byte_String dump = Dump_Message(0).substr(0, 66) + "\xF7";
   const Byte_String large = "\xF0" + Byte_String(1000, '\x22') + "\xF7";
-  for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1), large}) instrument.Write(bytes);
-  EXPECT_TRUE(desktop.Run_Until([&] { return input.received.size() >= 2; }));
-  EXPECT_EQ(input.received, (std::vector<Byte_String>{dump, large}));
+  for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1), large}) instrument->Write(bytes);
+  EXPECT_TRUE(desktop.Run_Until([&] { return input.received == Texts{dump, large}; }));
+}
+
+TEST(Software, Keeps_The_Contract) {
+  Software_Rig rig(Largest_Cells);
+  Expect_Contract(rig.service, "Listener in", [&](std::size_t count) { return rig.Received(count); });
 }
 
 TEST(Software, What_A_Slow_Client_Does_Not_Read_Yet_Waits_For_It) {
   Software_Rig rig(Usual_Cells);
-  std::int32_t handle = -1;
-  ASSERT_EQ(rig.service.Out_Open(handle, Find_Output(rig.service, "Listener in")), Midi_Ok);
+  const std::int32_t handle = Open_Output(rig.service, "Listener in");
   Byte_String want;
-  constexpr int Room = Usual_Cells / 5;  // a dump takes five cells
-  for (int number = 0; number < Room; ++number) {
-    want += Dump_Message(number);
-    ASSERT_TRUE(Await([&] { return Send_Long(rig.service, handle, Dump_Message(number)) == Midi_Ok; }));
-  }
-  for (; Send_Long(rig.service, handle, Dump_Message(0)) == Midi_Ok; want += Dump_Message(0)) {
-    ASSERT_LT(want.size(), 2 * Room * 90);
-  }
+  constexpr std::size_t Room = Usual_Cells / 5 * 90;  // a dump takes five cells
+  const auto send = [&] { return Send_Long(rig.service, handle, Dump_Message(0)) == Midi_Ok; };
+  for (; want.size() < Room; want += Dump_Message(0)) ASSERT_TRUE(Await(send));
+  for (; send(); want += Dump_Message(0)) ASSERT_LT(want.size(), 2 * Room);
   EXPECT_EQ(rig.service.Out_Close(handle), Midi_Still_Playing);
   EXPECT_EQ(Hex_Text(rig.Received(want.size())), Hex_Text(want));
 }

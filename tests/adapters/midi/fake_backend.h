@@ -11,59 +11,49 @@
 
 #include "adapters/midi/backend.h"
 
-// What an output port does with what is written to it. Safe for threads.
+// An output port, and what was written to it. Safe for threads.
 struct Fake_Port {
-  std::atomic<bool> busy = false;
-  std::atomic<bool> gone = false;
+  std::atomic<Midi::Write_Result> answer = Midi::Write_Result::Taken;
 
   std::string Bytes() {
-    const std::lock_guard lock(mutex_);
-    return bytes_;
-  }
-  Midi::Write_Result Write(std::string_view bytes) {
-    if (gone) return Midi::Write_Result::Gone;
-    if (busy) return Midi::Write_Result::Busy;
-    const std::lock_guard lock(mutex_);
-    bytes_ += bytes;
-    return Midi::Write_Result::Taken;
+    const std::lock_guard lock(mutex);
+    return bytes;
   }
 
- private:
-  std::mutex mutex_;
-  std::string bytes_;
+  std::mutex mutex;
+  std::string bytes;
 };
 
 struct Fake_Sink final : Midi::Sink {
   explicit Fake_Sink(Fake_Port& to) : port(to) {}
-  Midi::Write_Result Write(std::string_view bytes) override { return port.Write(bytes); }
-  bool Gone() const override { return port.gone; }
+  Midi::Write_Result Write(std::string_view bytes) override {
+    const std::lock_guard lock(port.mutex);
+    if (port.answer == Midi::Write_Result::Taken) port.bytes += bytes;
+    return port.answer;
+  }
+  bool Gone() const override { return port.answer == Midi::Write_Result::Gone; }
 
   Fake_Port& port;
 };
 
 struct Fake_Backend final : Midi::Backend {
-  using Ports_Of_Direction = std::map<Midi::Direction, std::vector<Midi::Port>>;
+  std::vector<Midi::Port> outputs, inputs;  // as the system has them; listed at the next Refresh
+  std::map<std::string, Fake_Port> ports;   // by address
+  Midi::Byte_Receiver receiver;             // of the input that was opened
 
-  Ports_Of_Direction there;                           // as the system has them; listed at the next Refresh
-  std::map<std::string, Fake_Port> ports;             // by address
-  std::map<std::string, Midi::Byte_Receiver> opened;  // inputs that were opened, by address
-
-  void Refresh() override { listed_ = there; }
-  std::vector<Midi::Port> Ports(Midi::Direction direction) override { return listed_[direction]; }
+  void Refresh() override { listed_ = {outputs, inputs}; }
+  std::vector<Midi::Port> Ports(Midi::Direction direction) override {
+    return direction == Midi::Direction::Output ? listed_.first : listed_.second;
+  }
   std::unique_ptr<Midi::Sink> Open_Output(const Midi::Port& port) override {
-    if (!Has(Midi::Direction::Output, port)) return nullptr;
+    if (std::ranges::count(outputs, port.address, &Midi::Port::address) == 0) return nullptr;
     return std::make_unique<Fake_Sink>(ports[port.address]);
   }
-  std::unique_ptr<Midi::Source> Open_Input(const Midi::Port& port, Midi::Byte_Receiver receiver) override {
-    if (!Has(Midi::Direction::Input, port)) return nullptr;
-    opened[port.address] = std::move(receiver);
+  std::unique_ptr<Midi::Source> Open_Input(const Midi::Port&, Midi::Byte_Receiver to) override {
+    receiver = std::move(to);
     return std::make_unique<Midi::Source>();
   }
 
  private:
-  bool Has(Midi::Direction direction, const Midi::Port& port) {
-    return std::ranges::count(there[direction], port.address, &Midi::Port::address) > 0;
-  }
-
-  Ports_Of_Direction listed_;
+  std::pair<std::vector<Midi::Port>, std::vector<Midi::Port>> listed_;
 };

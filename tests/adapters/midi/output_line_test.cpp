@@ -26,27 +26,23 @@ struct Line_Test : testing::Test {
 
 TEST_F(Line_Test, An_Idle_Wire_Takes_A_Message_At_Once_And_A_Busy_One_Keeps_Its_Spacing) {
   for (const std::size_t size : {10U, 90U, 3U}) Long(std::string(size, 'x'));
-  const struct {
-    std::int64_t at_us;
-    std::int64_t next_us;
-    std::size_t written;
-  } rows[] = {{0, 3200, 10},
-              {3199, 3200, 10},
-              {3200, 32000, 100},
-              {32900, Midi::Never_us, 103}};  // a thread that wakes a little late does not slow the wire down
-  for (const auto& row : rows) {
-    EXPECT_EQ(line.Pump(row.at_us), row.next_us);
-    EXPECT_EQ(port.Bytes().size(), row.written) << row.at_us;
+  for (const auto& [at_us, next_us, written] :
+       {std::tuple{0, std::int64_t{3200}, 10U},
+        {3199, 3200, 10U},
+        {3200, 32000, 100U},
+        {32900, Midi::Never_us, 103U}}) {  // a thread that wakes a little late does not slow the wire down
+    EXPECT_EQ(line.Pump(at_us), next_us);
+    EXPECT_EQ(port.Bytes().size(), written) << at_us;
   }
   line.Take(Message_Kind::Short, "\x90\x3C\x40", 32910);
   EXPECT_EQ(line.Pump(32910), 32960);
 }
 
 TEST_F(Line_Test, A_Port_That_Was_Stuck_Gets_No_Burst) {
-  port.busy = true;
+  port.answer = Midi::Write_Result::Busy;
   for (int i = 0; i < 100; ++i) Long(std::string(10, 'x'));
   Run_Until(8'000'000);
-  port.busy = false;
+  port.answer = Midi::Write_Result::Taken;
   Run_Until(8'100'000);
   EXPECT_GE(port.Bytes().size(), 250U);
   EXPECT_LE(port.Bytes().size(), 340U);
@@ -64,7 +60,7 @@ TEST_F(Line_Test, A_Large_Message_Is_Written_In_Pieces_And_A_Huge_One_Refused) {
 TEST_F(Line_Test, Of_A_Port_That_Goes_In_Mid_Stream_Nothing_Is_Under_Way) {
   for (int i = 0; i < 5; ++i) Long(std::string(100, 'x'));
   Run_Until(40'000);
-  port.gone = true;
+  port.answer = Midi::Write_Result::Gone;
   EXPECT_EQ(Long("x"), Midi_No_Device);
   EXPECT_EQ(line.Bytes_Under_Way(now_us), 0U) << "a close need not wait";
   EXPECT_EQ(line.Pump(now_us + 100'000), Midi::Never_us);

@@ -1,45 +1,26 @@
 // The list of backends as one service, and the contract over a wire of it.
 #include "adapters/midi/service.h"
 
-#include <gtest/gtest.h>
-
 #include <thread>
 
 #include "adapters/midi/device_names.h"
 #include "fake_backend.h"
 #include "support/midi_contract.h"
-#include "support/recording_service.h"
 
 namespace {
 
-using Midi::Direction;
-using Texts = std::vector<std::string>;
-
-struct Wire_Rig final : Midi_Rig {
-  Wire_Rig() {
-    backend.there[Direction::Output] = {{"Synth", "1", true}};
-    service.Refresh();
-  }
-
+TEST(Service, Keeps_The_Contract_Over_A_Wire) {
   Fake_Backend backend;
-  Midi::Service service{{&backend}};
-
-  Midi_Service& Service() override { return service; }
-  std::string Device_Name() override { return "Synth"; }
-  Byte_String Received(std::size_t count) override {
-    Await([&] { return backend.ports["1"].Bytes().size() >= count; });
-    return backend.ports["1"].Bytes();
-  }
-};
-
-const Rig_Maker Wire_Port{"Wire_Port", [] { return std::make_unique<Wire_Rig>(); }};
-MIDI_RIGS(Midi_Contract, Wire_Port);
+  backend.outputs = {{"Synth", "1", true}};
+  Midi::Service service({&backend});
+  Expect_Contract(service, "Synth", [&](std::size_t) { return backend.ports["1"].Bytes(); });
+}
 
 struct Service_Test : testing::Test {
   Service_Test() {
-    first.there[Direction::Output] = {{"Synth", "a", true}, {"Synth", "b", true}};
-    second.there[Direction::Output] = {{"Synth", "a", false}, {"Other", "o", false}};
-    second.there[Direction::Input] = {{"Keys", "k", false}};
+    first.outputs = {{"Synth", "a", true}, {"Synth", "b", true}};
+    second.outputs = {{"Synth", "a", false}, {"Other", "o", false}};
+    second.inputs = {{"Keys", "k", false}};
     service.Refresh();
   }
   Texts Output_Names() {
@@ -48,11 +29,9 @@ struct Service_Test : testing::Test {
     for (int i = 0; service.Out_Caps(i, caps) == Midi_Ok; ++i) names.emplace_back(caps.name.data());
     return names;
   }
-  void Receive(const std::string& bytes) { second.opened["k"](bytes); }
 
   Post_Desktop desktop;
-  Fake_Backend first;
-  Fake_Backend second;
+  Fake_Backend first, second;
   Midi::Service service{{&first, &second}};
   std::int32_t handle = -1;
 };
@@ -60,7 +39,7 @@ struct Service_Test : testing::Test {
 TEST_F(Service_Test, Devices_Run_Through_All_Backends_And_A_Refresh_Leaves_Open_Ones_Alone) {
   EXPECT_EQ(Output_Names(), (Texts{"Synth", "Synth (2)", "Synth (3)", "Other"}));
   ASSERT_EQ(service.Out_Open(handle, 3), Midi_Ok);
-  first.there[Direction::Output] = {{"New", "n", false}};
+  first.outputs = {{"New", "n", false}};
   EXPECT_EQ(service.Out_Count(), 4) << "the numbers hold until then";
   std::int32_t other = -1;
   EXPECT_EQ(service.Out_Open(other, 0), Midi_No_Device) << "gone since the listing";
@@ -81,42 +60,35 @@ TEST_F(Service_Test, A_Call_Out_Of_Order_Is_Answered_By_Its_Code) {
   EXPECT_EQ(service.Out_Long(handle, header), Midi_Unprepared);
   EXPECT_EQ(service.Out_Prepare(handle, header), Midi_Invalid_Parameter) << "longer than its data";
   ASSERT_EQ(service.Out_Close(handle), Midi_Ok);
-  for (const std::int32_t wrong : {-1, 0, handle}) {
-    const int codes[] = {service.Out_Short(wrong, 0x90), service.Out_Long(wrong, header),
-                         service.Out_Close(wrong),       service.In_Add_Buffer(wrong, header),
-                         service.In_Reset(wrong),        service.In_Close(wrong)};
-    for (const int code : codes) EXPECT_EQ(code, Midi_Invalid_Handle) << wrong;
+  for (const std::int32_t wrong : {0, handle}) {
+    for (const int code :
+         {service.Out_Short(wrong, 0x90), service.Out_Long(wrong, header), service.Out_Close(wrong),
+          service.In_Add_Buffer(wrong, header), service.In_Reset(wrong), service.In_Close(wrong)})
+      EXPECT_EQ(code, Midi_Invalid_Handle) << wrong;
   }
 }
 
 TEST_F(Service_Test, A_Close_Gives_Up_Where_Nothing_Moves_Any_More) {
   ASSERT_EQ(service.Out_Open(handle, 0), Midi_Ok);
-  first.ports["a"].busy = true;
+  first.ports["a"].answer = Midi::Write_Result::Busy;
   ASSERT_EQ(service.Out_Short(handle, 0x403C90), Midi_Ok);
   EXPECT_EQ(service.Out_Close(handle), Midi_Still_Playing);
   EXPECT_EQ(Close_Output(service, handle), Midi_Ok);
-  EXPECT_EQ(first.ports["a"].Bytes(), "");
 }
 
-TEST_F(Service_Test, An_Input_Hands_Whole_Messages_To_The_User_Interface) {
-  Test_Input input(service, 0);
+TEST_F(Service_Test, An_Input_Hands_Whole_Messages_To_The_User_Interface_And_None_From_Before_Its_Opening) {
+  {
+    Test_Input input(service, "Keys");
+    second.receiver("\xF0\x01\xF7");
+  }
+  Test_Input input(service, "Keys");
   // The port speaks on a thread of its own, in pieces.
   std::thread([&] {
-    for (const char* piece : {"\x90\x3C\x40\xF0\x41", "\x35\xF7\xF0\x01", "\xF7"}) Receive(piece);
+    for (const char* piece : {"\x90\x3C\x40\xF0\x41", "\x35\xF7\xF0\x02", "\xF7"}) second.receiver(piece);
   }).join();
   EXPECT_TRUE(input.received.empty()) << "not before the user interface runs its posts";
   desktop.Run_Posts();
-  EXPECT_EQ(input.received, (Texts{"\xF0\x41\x35\xF7", "\xF0\x01\xF7"}));
-}
-
-TEST_F(Service_Test, What_Came_Before_A_Close_Is_Dropped) {
-  {
-    Test_Input input(service, 0);
-    Receive("\xF0\x01\xF7");
-  }
-  Test_Input input(service, 0);
-  desktop.Run_Posts();
-  EXPECT_TRUE(input.received.empty());
+  EXPECT_EQ(input.received, (Texts{"\xF0\x41\x35\xF7", "\xF0\x02\xF7"}));
 }
 
 TEST_F(Service_Test, A_Message_Without_A_Buffer_That_Holds_It_Is_Dropped_And_A_Receiver_May_Close) {
@@ -133,7 +105,7 @@ TEST_F(Service_Test, A_Message_Without_A_Buffer_That_Holds_It_Is_Dropped_And_A_R
     EXPECT_EQ(service.In_Add_Buffer(handle, header), Midi_Ok);
   }
   ASSERT_EQ(service.In_Start(handle), Midi_Ok);
-  Receive("\xF0\x01\x02\xF7\xF0\x03\x04\xF7\xF0\x05\xF7\xF0\x06\xF7");
+  second.receiver("\xF0\x01\x02\xF7\xF0\x03\x04\xF7\xF0\x05\xF7\xF0\x06\xF7");
   desktop.Run_Posts();
   EXPECT_EQ(received, (Texts{"\xF0\x01\x02\xF7", "\xF0\x05\xF7"}));
 }
@@ -161,25 +133,13 @@ TEST(Sysex_Assembler, Joins_Complete_Messages_And_Ignores_The_Rest) {
 
 TEST(Device_Names, Are_Without_Changing_Numbers_And_Different_Within_31_Bytes) {
   const std::string longest(40, 'x');
-  const std::pair<std::string, std::string> rows[] = {
-      {"a2j:Test Synth [24] (playback): MIDI 1", "a2j:Test Synth (playback): MIDI"},
-      {"FLUID Synth (12345):Synth input port (12345:0)", "FLUID Synth:Synth input port"},
-      {"Midi Through:Port-0 14:0", "Midi Through:Port-0"},
-      {"Virtual Raw MIDI 0-1", "Virtual Raw MIDI 0-1"},
-      {"[17]", "MIDI"},
-      {longest, std::string(31, 'x')},
-      {longest, std::string(27, 'x') + " (2)"},
-      {"Synth", "Synth"},
-      {"Synth [20]", "Synth (2)"},
-      {"Synth (2)", "Synth (2) (2)"},
-      {"Gerät mit einem langen Namen üü", "Gerät mit einem langen Namen"},
-  };
-  Texts names, want;
-  for (const auto& [name, unique] : rows) {
-    names.push_back(name);
-    want.push_back(unique);
-  }
-  EXPECT_EQ(Midi::Unique_Names(names), want);
+  EXPECT_EQ(Midi::Unique_Names({"a2j:Test Synth [24] (playback): MIDI 1",
+                                "FLUID Synth (12345):Synth input port (12345:0)", "Midi Through:Port-0 14:0",
+                                "Virtual Raw MIDI 0-1", "[17]", longest, longest, "Synth", "Synth [20]",
+                                "Synth (2)", "Gerät mit einem langen Namen üü"}),
+            (Texts{"a2j:Test Synth (playback): MIDI", "FLUID Synth:Synth input port", "Midi Through:Port-0",
+                   "Virtual Raw MIDI 0-1", "MIDI", std::string(31, 'x'), std::string(27, 'x') + " (2)",
+                   "Synth", "Synth (2)", "Synth (2) (2)", "Gerät mit einem langen Namen"}));
 }
 
 }  // namespace

@@ -25,8 +25,10 @@ struct Desk : testing::Test {
     QTimer::singleShot(0, [] { QCoreApplication::exit(); });
     QApplication::exec();
     Install_Desktop(&desktop);
-    Place(frame, 0, 0, 600, 500);
-    Place(panel, 30, 20, 300, 200);
+    for (Form* form : {&frame, &panel}) {
+      form->width = 400 * 15;
+      form->height = 300 * 15;
+    }
     knob.Place(100, 50, 16, 16);
     knob.tab_index = 0;
     lever.Place(150, 50, 16, 16);
@@ -36,12 +38,6 @@ struct Desk : testing::Test {
   }
   ~Desk() override { Install_Desktop(nullptr); }
 
-  static void Place(Form& form, int left, int top, int width, int height) {
-    form.left = left * 15;
-    form.top = top * 15;
-    form.width = width * 15;
-    form.height = height * 15;
-  }
   void Show_Windows() {
     Show(frame);
     Show(panel);

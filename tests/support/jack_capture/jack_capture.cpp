@@ -14,7 +14,6 @@
 #include "support/recording_service.h"
 
 namespace {
-constexpr std::chrono::milliseconds Look_Again(5);
 volatile std::sig_atomic_t stopped = 0;
 }  // namespace
 
@@ -35,7 +34,7 @@ int main(int count, char** values) {
     for (std::string line; std::getline(std::cin, line);) peer.Send(Bytes_Of(line));
   }).detach();
   while (stopped == 0 && !peer.Is_Dead()) {
-    std::this_thread::sleep_for(Look_Again);
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
     for (const Jack_Event& event : peer.Take_Events())
       file << event.time_us << ' ' << Hex_Text(event.bytes) << '\n';
     file.flush();

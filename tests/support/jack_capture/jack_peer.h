@@ -33,15 +33,12 @@ struct Jack_Peer {
     jack_activate(client_);
   }
   ~Jack_Peer() { Close(); }
-  Jack_Peer(const Jack_Peer&) = delete;
-  Jack_Peer& operator=(const Jack_Peer&) = delete;
 
   void Close() {
     if (client_ != nullptr) jack_client_close(std::exchange(client_, nullptr));
   }
   bool Is_Open() const { return client_ != nullptr; }  // false: no server runs
   bool Is_Dead() const { return dead_; }               // the server has gone
-  unsigned Periods() const { return periods_; }
 
   std::vector<Jack_Event> Take_Events() {  // that came since the last call
     const std::lock_guard lock(mutex_);
@@ -75,7 +72,6 @@ struct Jack_Peer {
       const auto* data = reinterpret_cast<const jack_midi_data_t*>(bytes.data());
       if (jack_midi_event_write(out, 0, data, bytes.size()) != 0) break;  // no room: in the next period
     }
-    ++self.periods_;
     return 0;
   }
 
@@ -86,5 +82,4 @@ struct Jack_Peer {
   std::vector<Jack_Event> received_;
   std::deque<std::string> to_send_;
   std::atomic<bool> dead_ = false;
-  std::atomic<unsigned> periods_ = 0;
 };
