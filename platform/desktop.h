@@ -1,5 +1,5 @@
-// The desktop port: what the program expects of a window system. app/ or a test installs one before anything runs.
-// All calls come on the user-interface thread, but for Post.
+// The desktop port: what the program expects of a window system. app/ or a test installs one before anything
+// runs. All calls come on the user-interface thread, but for Post.
 #pragma once
 
 #include <cstdint>
@@ -41,9 +41,9 @@ enum class Event_Set {
 struct Desktop {
   virtual ~Desktop() = default;
 
-  // Shows a box and returns what the user answered. The closing of the box by Escape or its close box is Cancel
-  // where there is such a button, No in a Yes/No box, else Ok. No timer of the program ticks meanwhile (the caller
-  // has suspended them) and no other window gets an event.
+  // Shows a box and returns what the user answered. The closing of the box by Escape or its close box is
+  // Cancel where there is such a button, No in a Yes/No box, else Ok. No timer of the program ticks meanwhile
+  // (the caller has suspended them) and no other window gets an event.
   virtual Answer Message_Box(std::string_view text, int style, std::string_view title) = 0;
 
   // Runs the events that are pending, and returns.
@@ -75,8 +75,8 @@ struct Desktop {
   // Gives the native keyboard focus to the control's form and view. The program's own focus is already there.
   virtual void Show_Focus(Form& form, Control* control) = 0;
 
-  // A property of the component changed, for the first time since its Shown(). The desktop brings the view up to
-  // date at the end of the event at the latest.
+  // A property of the component changed, for the first time since its Shown(). The desktop brings the view up
+  // to date at the end of the event at the latest.
   virtual void Changed(Component& component) = 0;
   // A changed component is being destroyed.
   virtual void Forget(Component& component) = 0;

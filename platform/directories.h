@@ -3,15 +3,15 @@
 
 #include <string>
 
-// Where the settings live, as a program path without a backslash at its end: the directory of the executable if
-// MELVOR.FNT stands beside it and it can be written, else the user's configuration directory for MELVOR. It may not
-// exist yet (Program_Directory_Make).
+// Where the settings live, as a program path without a backslash at its end: the directory of the executable
+// if MELVOR.FNT stands beside it and it can be written, else the user's configuration directory for MELVOR.
+// It may not exist yet (Program_Directory_Make).
 const std::string& Program_Directory();
 // Makes it, if it is missing. Failures are ignored here: the write that follows tells them.
 void Program_Directory_Make();
 
-// Where pictures and font lie, as a host path: the program directory of a portable folder, else share/melvor beside
-// the executable's directory.
+// Where pictures and font lie, as a host path: the program directory of a portable folder, else share/melvor
+// beside the executable's directory.
 const std::string& Data_Directory();
 
 // Finds both from the host path of the executable. Called once, before anything else asks.

@@ -18,12 +18,12 @@ constexpr int Right = 39;
 constexpr int Down = 40;
 constexpr int Insert = 45;
 constexpr int Delete = 46;
-constexpr int Digit_0 = 48;    // digits run on to 57
-constexpr int Letter_A = 65;   // letters run on to 90
-constexpr int Keypad_0 = 96;   // keypad digits run on to 105
+constexpr int Digit_0 = 48;   // digits run on to 57
+constexpr int Letter_A = 65;  // letters run on to 90
+constexpr int Keypad_0 = 96;  // keypad digits run on to 105
 constexpr int Keypad_Plus = 107;
 constexpr int Keypad_Minus = 109;
-constexpr int F1 = 112;        // function keys run on to 123
+constexpr int F1 = 112;  // function keys run on to 123
 }  // namespace Key
 
 // Bits of the shift state.
@@ -42,8 +42,8 @@ struct Key_Event {
   int shift = 0;
 };
 
-// x and y in pixels of the control that was pressed, from its top left corner; outside it they are negative or
-// beyond its size.
+// x and y in pixels of the control that was pressed, from its top left corner; outside it they are negative
+// or beyond its size.
 struct Mouse_Event {
   int button = 0;  // 0 on a move with no button held
   int shift = 0;

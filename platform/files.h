@@ -1,5 +1,6 @@
-// Files by path (drives.h). Failures are Runtime_Error by the number of the host's error: 53 not there, 76 its
-// directory is not there, 70 no right or in use, 75 not a regular file, 61 full, 57 other device error, 52 bad name.
+// Files by path (drives.h). Failures are Runtime_Error by the number of the host's error: 53 not there, 76
+// its directory is not there, 70 no right or in use, 75 not a regular file, 61 full, 57 other device error,
+// 52 bad name.
 #pragma once
 
 #include <cstdint>
@@ -18,13 +19,13 @@ enum class Old_Content {
   Keep_Tail,  // what a longer old file has behind the new bytes stays
 };
 
-// Writes the file as a whole or not at all: into a new file beside it, flushed, that takes the old one's place in one
-// rename, with its access rights; symbolic links are followed. On failure the old file is as it was and no new one
-// stays behind. A new name is created as given, an old one keeps its spelling.
+// Writes the file as a whole or not at all: into a new file beside it, flushed, that takes the old one's
+// place in one rename, with its access rights; symbolic links are followed. On failure the old file is as it
+// was and no new one stays behind. A new name is created as given, an old one keeps its spelling.
 void File_Write(std::string_view path, std::string_view bytes, Old_Content old = Old_Content::Replace);
 
-// Keeps the file's present content beside it as NAME~, older copies as NAME~2 and NAME~3, unless new_bytes are a
-// prefix of it or there is no file.
+// Keeps the file's present content beside it as NAME~, older copies as NAME~2 and NAME~3, unless new_bytes
+// are a prefix of it or there is no file.
 void File_Keep_Copy(std::string_view path, std::string_view new_bytes);
 
 // 0 if a regular file can be opened for reading there, else the error number.
@@ -39,8 +40,8 @@ struct Directory_Entry {
   bool is_directory = false;
 };
 
-// What a directory holds, but for "." and ".." and names that start with a dot, in the order people expect: without
-// regard to case. 76 if it is not there, 68 if its drive is gone, 70 if it may not be read.
+// What a directory holds, but for "." and ".." and names that start with a dot, in the order people expect:
+// without regard to case. 76 if it is not there, 68 if its drive is gone, 70 if it may not be read.
 std::vector<Directory_Entry> Directory_List(std::string_view path);
 
 // Whether the directory holds a regular file (any name). False also if it cannot be read.

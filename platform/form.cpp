@@ -138,7 +138,8 @@ Form::~Form() {
 void Load(Form& form) {
   if (form.Loaded()) return;
   Form_Stack::Set_Loaded(form);
-  // The frame's view must stand first, since its load shows children; any other is built of what its load has set.
+  // The frame's view must stand first, since its load shows children; any other is built of what its load has
+  // set.
   if (form.role == Form_Role::Frame) The_Desktop().Form_Loaded(form);
   const Ready_When_Left ready{form};
   if (form.on_load) form.on_load();

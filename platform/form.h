@@ -39,8 +39,9 @@ struct Form : Component {
   bool key_preview = false;  // sees keys before its controls
 
   Property<std::string> caption{*this};
-  // Place in twips: of the screen for the frame and an independent window, else of the frame's inside. The size is
-  // that of the inside of the window, without title bar and borders, but for the frame, whose size is the whole.
+  // Place in twips: of the screen for the frame and an independent window, else of the frame's inside. The
+  // size is that of the inside of the window, without title bar and borders, but for the frame, whose size is
+  // the whole.
   Property<int> left{*this, 0}, top{*this, 0}, width{*this, 0}, height{*this, 0};
   Property<bool> visible{*this, false};
   Property<bool> enabled{*this, true};
@@ -69,18 +70,19 @@ struct Form : Component {
   bool loaded_ = false;
 };
 
-// Runs on_load if the form is not loaded yet. What it raises passes on to the caller; the form counts as loaded.
+// Runs on_load if the form is not loaded yet. What it raises passes on to the caller; the form counts as
+// loaded.
 void Load(Form& form);
 
-// Loads the form, shows it, brings it to the front and activates it. Returns at once, for an independent form too
-// (whoever must wait for it does so). A form whose load raised is shown before the error passes on, so that it can
-// be closed.
+// Loads the form, shows it, brings it to the front and activates it. Returns at once, for an independent form
+// too (whoever must wait for it does so). A form whose load raised is shown before the error passes on, so
+// that it can be closed.
 void Show(Form& form);
 
-// Closes the form: query, then unload, then its controls are back at their design values. For the frame: the frame's
-// query, the children's queries, the unloads of independent forms, of the children and of the frame. False if a
-// query refused: then nothing was closed. True at once if the form is not loaded. A form that closes takes no
-// more of the user's events, whatever its handlers let run.
+// Closes the form: query, then unload, then its controls are back at their design values. For the frame: the
+// frame's query, the children's queries, the unloads of independent forms, of the children and of the frame.
+// False if a query refused: then nothing was closed. True at once if the form is not loaded. A form that
+// closes takes no more of the user's events, whatever its handlers let run.
 bool Unload(Form& form);
 
 // Fills on_key_down: Escape, wherever it is typed in the form, closes it. REQUIRES: key_preview.
@@ -96,14 +98,16 @@ Form* Frame_Form();
 Form* Active_Form();
 
 // Makes the form the active one, with its own control getting the focus (the first in tab order at first).
-// In order: lost focus, deactivate, activate, got focus. Does nothing for a form that is hidden or disabled, or
-// active already.
+// In order: lost focus, deactivate, activate, got focus. Does nothing for a form that is hidden or disabled,
+// or active already.
 void Activate(Form& form);
 
-// Gives the control the focus, activating its form first. Does nothing if the control or its form cannot take it.
+// Gives the control the focus, activating its form first. Does nothing if the control or its form cannot take
+// it.
 void Set_Focus(Control& control);
 
-// The next or previous control in tab order of the control's form, around the end. The control itself if alone.
+// The next or previous control in tab order of the control's form, around the end. The control itself if
+// alone.
 Control& Next_In_Tab_Order(Control& control, bool backwards);
 
 // The control that has the focus now, nullptr for none.

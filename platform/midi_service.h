@@ -1,6 +1,6 @@
 // The MIDI service: the operations, records, codes and texts of the classic multimedia MIDI interface.
-// app/ or a test installs a service before anything runs. All calls come on the user-interface thread, none of them
-// waits for the wire but for midiOutClose, which waits 10 ms at most.
+// app/ or a test installs a service before anything runs. All calls come on the user-interface thread, none
+// of them waits for the wire but for midiOutClose, which waits 10 ms at most.
 #pragma once
 
 #include <array>
@@ -13,7 +13,7 @@ using Byte_String = std::string;
 
 // Result codes, numbers as published for the interface.
 constexpr int Midi_Ok = 0;
-constexpr int Midi_Error = 1;            // unspecified
+constexpr int Midi_Error = 1;  // unspecified
 constexpr int Midi_Bad_Device = 2;
 constexpr int Midi_Allocated = 4;
 constexpr int Midi_Invalid_Handle = 5;
@@ -82,11 +82,12 @@ struct Midi_Service {
 
   virtual int In_Count() = 0;
   virtual int In_Caps(int device, MIDI_In_Caps& caps) = 0;
-  // The receiver runs on the user-interface thread, never inside a call of the service, and never after In_Close.
+  // The receiver runs on the user-interface thread, never inside a call of the service, and never after
+  // In_Close.
   virtual int In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) = 0;
-  // Prepares a buffer of buffer_length bytes, and hands it to the input to be filled; it stays there, at its address,
-  // until the receiver gets it, or the input is reset or closed. A message that finds no buffer, or none that is
-  // long enough, is dropped.
+  // Prepares a buffer of buffer_length bytes, and hands it to the input to be filled; it stays there, at its
+  // address, until the receiver gets it, or the input is reset or closed. A message that finds no buffer, or
+  // none that is long enough, is dropped.
   virtual int In_Prepare(std::int32_t handle, MIDI_Header& header) = 0;
   virtual int In_Add_Buffer(std::int32_t handle, MIDI_Header& header) = 0;
   virtual int In_Unprepare(std::int32_t handle, MIDI_Header& header) = 0;
@@ -98,7 +99,8 @@ struct Midi_Service {
   virtual std::string Error_Text(int code) = 0;
 };
 
-void Install_Midi_Service(Midi_Service* service);  // nullptr takes it away: every call answers 6, every count is 0
+void Install_Midi_Service(
+    Midi_Service* service);  // nullptr takes it away: every call answers 6, every count is 0
 
 // The operations under their published names.
 void midiRefreshDevices();

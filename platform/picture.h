@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
-// A picture by its name in the picture store, the name of its file without ending ("buttons-6"); empty for none.
-// The text lives for the whole run.
+// A picture by its name in the picture store, the name of its file without ending ("buttons-6"); empty for
+// none. The text lives for the whole run.
 struct Picture {
   std::string_view name;
   bool operator==(const Picture&) const = default;

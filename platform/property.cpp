@@ -13,7 +13,8 @@ Component::~Component() {
 }
 
 void Component::Keep_Design() {
-  for (Property_Base* property = properties; property != nullptr; property = property->next) property->Keep_Design();
+  for (Property_Base* property = properties; property != nullptr; property = property->next)
+    property->Keep_Design();
 }
 
 void Component::Restore_Design() {

@@ -1,6 +1,6 @@
-// Properties: the values of windows and controls. An assignment that changes the value tells the component that
-// owns it, and through it the desktop, so that a view repaints only what changed.
-// User-interface thread only.
+// Properties: the values of windows and controls. An assignment that changes the value tells the component
+// that owns it, and through it the desktop, so that a view repaints only what changed. User-interface thread
+// only.
 #pragma once
 
 #include <string_view>
@@ -27,7 +27,8 @@ struct Property_Base {
 
 template <class T>
 struct Property final : Property_Base {
-  explicit Property(Component& component, T start = T()) : Property_Base(component), value_(std::move(start)) {}
+  explicit Property(Component& component, T start = T())
+      : Property_Base(component), value_(std::move(start)) {}
 
   // Not chained: an assignment inside an expression would hide that a window changes.
   void operator=(T value) {

@@ -34,5 +34,6 @@ constexpr std::array Error_Rows{
 std::string_view Error_Text(int number) {
   const auto row = std::find_if(Error_Rows.begin(), Error_Rows.end(),
                                 [number](const Error_Row& candidate) { return candidate.number == number; });
-  return row == Error_Rows.end() ? std::string_view("Application-defined or object-defined error") : row->text;
+  return row == Error_Rows.end() ? std::string_view("Application-defined or object-defined error")
+                                 : row->text;
 }

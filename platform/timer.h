@@ -1,9 +1,9 @@
 // Timers of the program and the one schedule that all desktops run them by.
 // User-interface thread only.
 //
-// A timer keeps to its schedule: the n-th tick is due at start + n * interval. A late tick does not push the next
-// one; ticks that were missed altogether are not made up for. A timer whose handler still runs (it let pending
-// events run) does not tick again inside itself.
+// A timer keeps to its schedule: the n-th tick is due at start + n * interval. A late tick does not push the
+// next one; ticks that were missed altogether are not made up for. A timer whose handler still runs (it let
+// pending events run) does not tick again inside itself.
 #pragma once
 
 #include <cstdint>
@@ -36,8 +36,8 @@ struct Timer final : Component {
   Timer* next_ = nullptr;  // list of running timers
 };
 
-// Runs the handlers of all timers that are due now, in the order of their times, and asks the desktop for the next
-// wake. Called by the desktop at the time it was asked for, or later.
+// Runs the handlers of all timers that are due now, in the order of their times, and asks the desktop for the
+// next wake. Called by the desktop at the time it was asked for, or later.
 void Timers_Run_Due();
 
 // As long as one of these lives, no timer ticks.

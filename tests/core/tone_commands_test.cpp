@@ -74,9 +74,9 @@ TEST_F(Tone_Commands, Only_A_Dump_Of_67_Bytes_Ends_The_Wait) {
 
 TEST_F(Tone_Commands, A_Failed_Open_Changes_Nothing_And_A_Vanished_Input_Closes) {
   for (const auto& [operation, told] : {std::pair{"In_Open", "vbMidiInOpen"},
-                                         {"In_Prepare", "vbMidiInPrepareHeader"},
-                                         {"In_Add_Buffer", "vbMidiInAddBuffer"},
-                                         {"In_Start", "vbMidiInOpen"}}) {
+                                        {"In_Prepare", "vbMidiInPrepareHeader"},
+                                        {"In_Add_Buffer", "vbMidiInAddBuffer"},
+                                        {"In_Start", "vbMidiInOpen"}}) {
     service.Fail_Next(operation, Midi_Allocated);
     desktop.Expect_Box(Answer::Ok, told + std::string(": Text of 4"));
     Tone_Receive_Toggle();
