@@ -66,9 +66,7 @@ void Dialog_Load() {
   FD_Open = Flag_True;
 }
 
-// While Dlg_Leave lets events run, the window is beyond the user's reach already.
 void Dialog_Unload() {
-  File_Dlg.enabled = false;
   MELVOR.Timer_Display.enabled = false;
   Display_Blink = Display_Blink_After_Unload;
   MIDI_Reset();
