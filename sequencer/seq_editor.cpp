@@ -27,6 +27,7 @@ void Play_Chord() {
   if (MIDI_Enabled != 1) return;
   const bool filled = std::any_of(Seq_Data.begin(), Seq_Data.begin() + Seq_Row_Count,
                                   [](std::int16_t velocity) { return velocity != 0; });
+  Seq_Status = Note_On_Status();
   if (filled) return Seq_Send_Step(0);
   for (const int note : C_Major_Chord) MIDI_SendNote(note, Chord_Velocity);
 }

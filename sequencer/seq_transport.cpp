@@ -14,7 +14,9 @@
 
 namespace {
 
+// The status byte of notes is there for whichever start comes first: a file's preview may be that.
 void Start_Clock(int first_step) {
+  Seq_Status = Note_On_Status();
   Seq_Step = first_step;
   MELVOR.Seq_Tmr.enabled = true;
   Seq_Running = Flag_On;
@@ -44,7 +46,6 @@ void Dark_Around_Step() {
 void ED_Seq_Start_Click() {
   if (Seq_Loaded != Flag_On && Seq_Saved != Flag_Off) return;
   MIDI_Out_Open();
-  Seq_Status = Note_On_Status();
   Start_Clock(0);
   Seq_Start_Faces_Down();
 }

@@ -59,6 +59,7 @@ TEST_F(Preview_Test, A_Clicked_Sequence_Is_Drawn_And_Plays_From_Its_Start) {
   Open("Open_SEQ");
   Press_File("p.seq");
   EXPECT_EQ(File_Dlg.FD_SEQ_Preview.painted().size(), 104U);
+  EXPECT_EQ(Seq_Status, 0x90) << "nothing else has set it";
   desktop.Advance_ms(125 * 3);
   EXPECT_EQ(Seq_Step, 3);
   Press_File("p.seq");
