@@ -97,9 +97,15 @@ int Error_Of(const std::function<void()>& deed) {
   }
 }
 
+// The file that the name field says goes. One that is not the file asked about leaves a copy.
 void Delete_File(bool confirmed) {
-  const std::string path = Path_Slash(File_Dlg.FD_List_Dirs.path()) + Trim(File_Dlg.FD_FileName.text());
-  if (confirmed && Error_Of([&] { File_Delete(path); }) != 0) {
+  const std::string name = Trim(File_Dlg.FD_FileName.text());
+  const std::string path = Path_Slash(File_Dlg.FD_List_Dirs.path()) + name;
+  const auto remove = [&] {
+    if (name != FD_Selected) File_Keep_Copy(path);
+    File_Delete(path);
+  };
+  if (confirmed && Error_Of(remove) != 0) {
     Message_Box(Upper(FD_Selected) + " could not be deleted.", Box_Exclamation);
   } else {
     File_Dlg.FD_List_Files.Refresh();

@@ -185,13 +185,13 @@ void File_Write(std::string_view path, std::string_view bytes, Old_Content old) 
   file.Take_Place(target);
 }
 
-void File_Keep_Copy(std::string_view path, std::string_view new_bytes) {
+void File_Keep_Copy(std::string_view path, std::optional<std::string_view> new_bytes) {
   const std::string target = Link_Target(Host_Path(path));
   const std::optional<struct stat> old_file = Old_File(target);
   if (!old_file) return;
   const std::string content = Host_Content(target, SIZE_MAX);
   const std::string newest = target + std::string(Copy_Endings.front());
-  if (content.starts_with(new_bytes) || Holds(newest, content)) return;
+  if ((new_bytes && content.starts_with(*new_bytes)) || Holds(newest, content)) return;
   New_File copy(Parent_Directory(target), old_file->st_mode & 0777);
   copy.Write(content);
   copy.Take_Rights(*old_file);

@@ -24,9 +24,9 @@ enum class Old_Content {
 // was and no new one stays behind. A new name is created as given, an old one keeps its spelling.
 void File_Write(std::string_view path, std::string_view bytes, Old_Content old = Old_Content::Replace);
 
-// Keeps the file's present content beside it as NAME~, older copies as NAME~2 and NAME~3, unless new_bytes
-// are a prefix of it or there is no file.
-void File_Keep_Copy(std::string_view path, std::string_view new_bytes);
+// Keeps the file's present content beside it as NAME~, older copies as NAME~2 and NAME~3, unless there is no
+// file, or it is about to get new_bytes and they are a prefix of it.
+void File_Keep_Copy(std::string_view path, std::optional<std::string_view> new_bytes = std::nullopt);
 
 // 0 if a regular file can be opened for reading there, else the error number.
 int File_Probe(std::string_view path);

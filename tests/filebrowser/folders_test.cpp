@@ -82,6 +82,12 @@ TEST_F(Folders_Test, Delete_Asks_First) {
   press_delete("A.SYX", Answer::Yes);
   EXPECT_EQ(File_Dlg.FD_List_Files.items(), (std::vector<std::string>{"B.SYX", "bad.syx"}));
   press_delete("A.SYX", Answer::Yes, " could not be deleted.");
+  const auto bad = root.Get("work/bad.syx");
+  Press_File("B.SYX");
+  File_Dlg.FD_FileName.Set_Text("bad.syx");
+  press_delete("B.SYX", Answer::Yes);
+  EXPECT_EQ(File_Dlg.FD_List_Files.items(), std::vector<std::string>{"B.SYX"});
+  EXPECT_EQ(root.Get("work/bad.syx~"), bad) << "nobody asked about it";
 
   root.Put("work/sub/kept.syx", "x");
   Press_Directory("C:\\work\\sub");
