@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 #include "adapters/qt/qt_text.h"
 #include "adapters/qt/shell.h"
@@ -39,7 +40,8 @@ void Command_Button_View::Show_Values() {
 Check_Box_View::Check_Box_View(Shell& the_shell, Control& the_control, QWidget& parent)
     : Control_View(the_shell, the_control, *new QCheckBox(&parent), Button_Manner) {
   auto& check_box = static_cast<QCheckBox&>(widget);
-  QObject::connect(&check_box, &QCheckBox::clicked, &check_box, [this](bool checked) {
+  // Not clicked alone: a screen reader toggles the box without a click.
+  QObject::connect(&check_box, &QCheckBox::toggled, &check_box, [this](bool checked) {
     Report([&box = static_cast<Check_Box&>(control), checked] { User_Checked(box, checked); });
   });
 }
@@ -49,6 +51,7 @@ void Check_Box_View::Show_Values() {
   auto& check_box = static_cast<QCheckBox&>(widget);
   if (const QString text = To_Qt(box.caption()); check_box.text() != text) check_box.setText(text);
   check_box.setAccessibleName(Spoken(control, box.caption()));
+  const QSignalBlocker shown_not_toggled(check_box);
   check_box.setChecked(box.value());
 }
 

@@ -99,6 +99,10 @@ def main():
         screen.act("Note matrix > E, step 3", "Soft")
         wait_until(lambda: screen.value("Note matrix") == "step 3: E soft", "the note")
         assert screen.is_checked("Note matrix > E, step 3")
+        screen.menu("MIDI", "Setup...")
+        for enabled in (False, True):
+            screen.act("MIDI enabled", "Toggle")
+            wait_until(lambda: screen.is_enabled("MIDI output device") == enabled, "the devices to choose")
         session.end_at_once()
 
 
