@@ -12,6 +12,22 @@ namespace {
 constexpr std::int64_t Catch_Up_us = 5000;
 constexpr std::int64_t First_Retry_us = 1000;
 constexpr std::int64_t Last_Retry_us = 16000;
+
+constexpr int Message_Of_Status = 0xF0;
+constexpr int Control_Change = 0xB0;
+constexpr int First_Channel_Mode = 120;  // controllers from here on: All Sound Off to All Notes Off and modes
+
+bool Ends_Notes(std::string_view message) {
+  return message.size() == 3 && (message[0] & Message_Of_Status) == Control_Change &&
+         message[1] >= First_Channel_Mode;
+}
+
+// A line that is too full for a note closes with an All Notes Off, which must not be refused for that reason.
+std::size_t Bound(Message_Kind kind, std::string_view message) {
+  if (kind == Message_Kind::Long) return Long_Bound;
+  return Ends_Notes(message) ? Silence_Bound : Short_Bound;
+}
+
 }  // namespace
 
 Output_Line::Output_Line(std::unique_ptr<Sink> sink, bool paced)
@@ -19,13 +35,12 @@ Output_Line::Output_Line(std::unique_ptr<Sink> sink, bool paced)
 
 int Output_Line::Take(Message_Kind kind, std::string_view message, std::int64_t now_us) {
   const std::lock_guard lock(mutex_);
-  const std::size_t bound = kind == Message_Kind::Long ? Long_Bound : Short_Bound;
   int code = Midi_Ok;
   if (gone_ || sink_->Gone()) {
     code = Midi_No_Device;
   } else if (message.size() > Longest_Message) {
     code = Midi_Invalid_Parameter;
-  } else if (Waiting_Bytes() >= bound) {
+  } else if (Waiting_Bytes() >= Bound(kind, message)) {
     code = Midi_Not_Ready;
   }
   if (code != Midi_Ok) {

@@ -18,6 +18,7 @@ namespace Midi {
 constexpr std::int64_t Wire_us_Per_Byte = 320;  // 31,250 bits a second, ten of them to the byte
 constexpr std::size_t Long_Bound = 1024;        // long messages are taken while fewer bytes wait
 constexpr std::size_t Short_Bound = 4096;       // short ones while fewer than this do
+constexpr std::size_t Silence_Bound = 4352;     // those that end all notes while fewer than this do
 constexpr std::size_t Longest_Message = 65536;
 constexpr std::int64_t Never_us = std::numeric_limits<std::int64_t>::max();
 

@@ -48,6 +48,17 @@ TEST_F(Line_Test, A_Port_That_Was_Stuck_Gets_No_Burst) {
   EXPECT_LE(port.Bytes().size(), 340U);
 }
 
+TEST_F(Line_Test, A_Line_Too_Full_For_A_Note_Still_Takes_The_End_Of_All_Notes) {
+  port.answer = Midi::Write_Result::Busy;
+  while (line.Take(Message_Kind::Short, "\x90\x3C\x40", now_us) == Midi_Ok) continue;
+  const std::string silence("\xB0\x7B\0", 3);
+  EXPECT_EQ(line.Take(Message_Kind::Short, silence, now_us), Midi_Ok);
+  EXPECT_EQ(line.Take(Message_Kind::Short, "\xB0\x01\x40", now_us), Midi_Not_Ready);
+  port.answer = Midi::Write_Result::Taken;
+  Run_Until(10'000'000);
+  EXPECT_TRUE(port.Bytes().ends_with(silence));
+}
+
 TEST_F(Line_Test, A_Large_Message_Is_Written_In_Pieces_And_A_Huge_One_Refused) {
   std::string message;
   for (std::size_t i = 0; i < Midi::Longest_Message; ++i) message += static_cast<char>(i % 127);
