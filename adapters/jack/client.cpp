@@ -16,6 +16,7 @@ constexpr std::size_t Input_Ring_Size = 65536;
 constexpr unsigned Connection_Periods = 2;  // until a connection is in force for both sides
 constexpr int Longest_Wait_ms = 500;        // for periods of a server that does not run, or for a connection
 constexpr int Link_Again_ms = 10;
+constexpr int Longest_Drain_ms = 10'000;
 
 void Say_Nothing(const char* /*message*/) {}
 
@@ -134,8 +135,9 @@ void Client::Post_Opening(Slot& slot, const char* name, unsigned long flags) {
 
 template <class Slot>
 void Client::Post_Closing(Slot& slot) {
-  slot.state = Slot_State::Closing;
   Post_Task(worker_, [self = shared_from_this(), &slot] {
+    self->Wait_Drained(slot);
+    slot.state = Slot_State::Closing;
     jack_port_t* port = slot.port.exchange(nullptr);
     self->Wait_Periods(1);  // the process thread has left it
     if (port != nullptr && !self->dead_) jack_port_unregister(self->client_, port);
@@ -166,6 +168,15 @@ int Client::Link(const Input_Slot& slot) const {
 void Client::Wait_Periods(unsigned count) const {
   const unsigned start = periods_;
   for (int waited_ms = 0; waited_ms < Longest_Wait_ms && !dead_ && periods_ - start <= count; ++waited_ms) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+}
+
+// Whoever closes does not wait for a server that stands still. Once it goes on, what was sent still goes out:
+// the last of it ends the notes.
+void Client::Wait_Drained(const Output_Slot& slot) const {
+  for (int waited_ms = 0; waited_ms < Longest_Drain_ms; ++waited_ms) {
+    if (dead_ || slot.gone || slot.port == nullptr || slot.Drained()) return;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
 }

@@ -70,6 +70,8 @@ struct Client : std::enable_shared_from_this<Client> {
   static void Lost(Output_Slot& slot) { slot.gone = true; }
   static void Lost(Input_Slot&) {}  // an input whose port is not there stays silent
   void Wait_Periods(unsigned count) const;
+  void Wait_Drained(const Output_Slot& slot) const;
+  void Wait_Drained(const Input_Slot&) const {}
   void Find_Gone();
   int Process(jack_nframes_t count);
   void Read_Input(std::uint32_t slot, jack_nframes_t count);

@@ -26,6 +26,7 @@ Output_Slot::Output_Slot() : ring_(jack_ringbuffer_create(Ring_Size), jack_ringb
 void Output_Slot::Empty() {
   jack_ringbuffer_reset(ring_.get());
   passed_ = 0;
+  put_ = 0;
   placed_ = 0;
   left_ = 0;
   gone = false;
@@ -36,6 +37,7 @@ bool Output_Slot::Put(jack_nframes_t now, std::string_view message) {
   if (jack_ringbuffer_write_space(ring_.get()) < sizeof head + message.size()) return false;
   jack_ringbuffer_write(ring_.get(), reinterpret_cast<const char*>(&head), sizeof head);
   jack_ringbuffer_write(ring_.get(), message.data(), message.size());
+  put_ += message.size();
   return true;
 }
 

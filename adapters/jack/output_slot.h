@@ -40,6 +40,8 @@ struct Output_Slot {
   bool Put(jack_nframes_t now, std::string_view message);
   // Bytes of messages in periods that have ended, since the slot was opened. Any thread.
   std::size_t Passed_Bytes() const { return passed_; }
+  // Whether all that was put in has gone out. REQUIRES: the sender thread has ended.
+  bool Drained() const { return passed_ == put_; }
 
   // Process thread: writes what is due into the port's buffer of the period of count frames that starts at
   // the frame time. Each message stands exactly one period after its stamp; what has no room goes into the
@@ -55,6 +57,7 @@ struct Output_Slot {
 
   std::unique_ptr<jack_ringbuffer_t, void (*)(jack_ringbuffer_t*)> ring_;
   std::atomic<std::size_t> passed_ = 0;
+  std::size_t put_ = 0;  // of the sender thread
 
   // of the process thread
   std::size_t placed_ = 0;  // in buffers, that of this period included
