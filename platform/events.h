@@ -24,6 +24,8 @@ constexpr int Keypad_0 = 96;  // keypad digits run on to 105
 constexpr int Keypad_Plus = 107;
 constexpr int Keypad_Minus = 109;
 constexpr int F1 = 112;  // function keys run on to 123
+constexpr int F4 = 115;
+constexpr int F6 = 117;
 }  // namespace Key
 
 // Bits of the shift state.

@@ -206,6 +206,15 @@ void Set_Focus(Control& control) {
   if (control.on_got_focus) control.on_got_focus();
 }
 
+Form* Next_Child(const Form& form, bool backwards) {
+  std::vector<Form*> order = Form_Stack::children;
+  if (backwards) std::ranges::reverse(order);
+  const auto here = std::ranges::find(order, &form);
+  if (here != order.end()) std::ranges::rotate(order, here + 1);
+  const auto next = std::ranges::find_if(order, [](const Form* child) { return Can_Be_Active(*child); });
+  return next == order.end() ? nullptr : *next;
+}
+
 Control& Next_In_Tab_Order(Control& control, bool backwards) {
   Control* next = nullptr;
   Control* around = nullptr;

@@ -106,6 +106,10 @@ void Activate(Form& form);
 // it.
 void Set_Focus(Control& control);
 
+// The next or previous child, in the order of loading and around the end, that can be the active one. nullptr
+// if there is none.
+Form* Next_Child(const Form& form, bool backwards);
+
 // The next or previous control in tab order of the control's form, around the end. The control itself if
 // alone.
 Control& Next_In_Tab_Order(Control& control, bool backwards);

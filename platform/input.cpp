@@ -47,6 +47,23 @@ bool Run_Shortcut(const Form& form, const Key_Event& key) {
   return true;
 }
 
+// The keys by which a frame's children are changed and closed. A window that the program has locked is passed
+// over; a dialog that lies behind one that stays usable is reached by them alone.
+bool Run_Window_Key(Form& form, const Key_Event& key) {
+  const int shift = key.shift & ~Shift_Key;
+  if (shift != Ctrl_Key || form.role == Form_Role::Independent) return false;
+  if (key.code == Key::Tab || key.code == Key::F6) {
+    Form* next = Next_Child(form, (key.shift & Shift_Key) != 0);
+    if (next == nullptr) return true;
+    Dispatch([next] { Bring_To_Front(*next); });
+    User_Activated(*next);
+    return true;
+  }
+  if (key.code != Key::F4 || form.role != Form_Role::Child || form.border == Border::None) return false;
+  User_Closes(form);
+  return true;
+}
+
 std::string_view Caption_Of(const Control& control) {
   switch (control.kind) {
     case Kind::Label:
@@ -147,7 +164,7 @@ bool Ordinary_Work(Form& form, Control* control, const Key_Event& key) {
 
 bool Key_Down(Form& form, Control* control, Key_Event key, int character) {
   if (!form.enabled()) return true;
-  if (Run_Shortcut(form, key)) return true;
+  if (Run_Shortcut(form, key) || Run_Window_Key(form, key)) return true;
   const bool form_first = form.key_preview || control == nullptr;
   if (form_first) Run(form.on_key_down, key);
   if (key.code != 0 && control != nullptr) Run(control->on_key_down, key);

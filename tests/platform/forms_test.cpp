@@ -104,4 +104,24 @@ TEST_F(Forms, Keys_That_Nobody_Takes_Do_Their_Ordinary_Work) {
   EXPECT_FALSE(desktop.Key('C', Ctrl_Key)) << "what the branch cannot choose is left to the text field";
 }
 
+TEST_F(Forms, Keys_Change_And_Close_The_Windows_That_Are_Not_Locked) {
+  Dialog locked{"locked"};
+  Show(locked);
+  Show(two);
+  locked.enabled = false;
+  for (const auto& [code, shift, active] : {std::tuple{Key::Tab, Ctrl_Key, &one},
+                                            {Key::Tab, Ctrl_Key, &two},
+                                            {Key::Tab, Ctrl_Key | Shift_Key, &one},
+                                            {Key::F6, Ctrl_Key, &two},
+                                            {Key::F4, Ctrl_Key, &one},
+                                            {Key::F6, Ctrl_Key, &one}}) {
+    EXPECT_TRUE(desktop.Key(code, shift));
+    EXPECT_EQ(Active_Form(), active);
+  }
+  EXPECT_FALSE(two.Loaded());
+  one.border = Border::None;
+  EXPECT_FALSE(desktop.Key(Key::F4, Ctrl_Key)) << "a window without a title bar has no close box either";
+  EXPECT_TRUE(one.Loaded());
+}
+
 }  // namespace
