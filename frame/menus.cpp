@@ -35,7 +35,8 @@ void Open_Tone() {
 
 template <std::size_t place>
 void Open_Recent_Tone() {
-  if (!Recent_Tones[place].empty()) Tone_Load(Recent_Tones[place], Load_Mode::Open);
+  const std::string path = Recent_Tones[place];  // the load moves the list
+  if (!path.empty()) Tone_Load(path, Load_Mode::Open);
 }
 
 template <int place>
