@@ -6,6 +6,7 @@
 #include "core/sysex.h"
 #include "core/tone_files.h"
 #include "core/tone_params.h"
+#include "core/undo.h"
 #include "midi/input.h"
 #include "midi/state.h"
 #include "platform/chance.h"
@@ -24,16 +25,6 @@ constexpr std::size_t Dump_Size = 67;
 constexpr std::size_t Dump_First_Byte = 7;  // 0-based
 
 std::uint8_t autosend_kept = 0;  // the value of Autosend while the program waits for a tone
-
-void Show_Both() {
-  Tone_Show();
-  if (Patch_Open == Flag_On) Patch_Show();
-}
-
-void Undo_Copy_Back() {
-  Tone = Tone_Undo;
-  Patch_Rec = Patch_Undo;
-}
 
 void Receive_Start() {
   MIDI_In_Open();
@@ -76,7 +67,7 @@ void Tone_New() {
   Tone_Saved = Flag_True;
   Tone_Loading = Flag_On;
   Tone_Clear();
-  Show_Both();
+  Tone_Patch_Show();
   Tone_Loading = Flag_Off;
   SysEx_Dump_Send();
 }
@@ -91,7 +82,7 @@ void Tone_Random() {
   Patch_Rec[Patch_Index_UDTune] = Detune_Centre;
   Tone_Name_Str = "RANDOM";
   Tone_Name_Store();
-  Show_Both();
+  Tone_Patch_Show();
   SysEx_Dump_Send();
   Tone_Saved = Flag_False;
   MELVOR.Menu_Edit_Undo.enabled = true;
@@ -101,27 +92,6 @@ void Tone_Random() {
 void Tone_Send() {
   SysEx_Heads_Build();
   SysEx_Dump_Send();
-}
-
-void Undo_Store() {
-  Tone_Undo = Tone;
-  Patch_Undo = Patch_Rec;
-  MELVOR.Menu_Edit_Undo.enabled = true;
-}
-
-void Undo_Restore() {
-  Undo_Copy_Back();
-  Show_Both();
-  MELVOR.Menu_Edit_Undo.enabled = false;
-  SysEx_Dump_Send();
-}
-
-void Undo_Restore_Quiet() {
-  Undo_Copy_Back();
-  Tone_Loading = Flag_On;
-  Show_Both();
-  Tone_Loading = Flag_Off;
-  if (Autosend == 1) SysEx_Dump_Send();
 }
 
 void Tone_Receive() {

@@ -17,12 +17,6 @@ void Tone_Random();
 // Composes the heads anew and sends the dump, whatever Autosend says.
 void Tone_Send();
 
-// One level of undo, filled by Tone_Random alone.
-void Undo_Store();
-void Undo_Restore();
-// The same without the menu, for Save As in the file dialog; sends only if Autosend is on.
-void Undo_Restore_Quiet();
-
 // The menu command: save prompt, then the wait for a tone.
 void Tone_Receive();
 // Starts or ends the wait. Starting opens the MIDI input; if that fails nothing changes.

@@ -7,6 +7,7 @@
 #include "core/settings.h"
 #include "core/sysex.h"
 #include "core/tone_params.h"
+#include "core/undo.h"
 #include "midi/state.h"
 #include "platform/convert.h"
 #include "platform/desktop.h"
@@ -151,7 +152,6 @@ bool Save_As_Round() {
   Dlg_Kind = "SaveAs_SYX";
   Show(File_Dlg);
   Dlg_Wait();
-  if (!Active_Dlg.empty()) return true;  // the program ends
   if (!Tone_File.empty()) {
     const bool root = Has_Form(Dir_Tones, "?:\\");
     Tone_Title = Path_Behind(Tone_File, Dir_Tones.size() + (root ? 0 : 1));
@@ -165,6 +165,17 @@ bool Save_As_Round() {
       Message_Box("File exists: " + Tone_File + " Overwrite?", Box_Yes_No_Cancel + Box_Stop);
   if (answer == Answer::Yes) Tone_Save();
   return answer != Answer::No;
+}
+
+void Tell_Save_As_Error(const Runtime_Error& error) {
+  if (error.number == Error_Cancelled || error.number == Error_File_Not_Found) return;
+  if (error.number == Error_Bad_File_Name) {
+    Message_Box("Wrong filename!", Box_Stop);
+  } else {
+    Message_Box(
+        "SaveAs Error " + std::to_string(error.number) + " : " + std::string(Error_Text(error.number)),
+        Box_Stop);
+  }
 }
 
 }  // namespace
@@ -203,15 +214,9 @@ void Tone_SaveAs() {
   try {
     while (!Save_As_Round()) continue;
   } catch (const Runtime_Error& error) {
-    if (error.number == Error_Cancelled || error.number == Error_File_Not_Found) return;
-    if (error.number == Error_Bad_File_Name) {
-      Message_Box("Wrong filename!", Box_Stop);
-    } else {
-      Message_Box(
-          "SaveAs Error " + std::to_string(error.number) + " : " + std::string(Error_Text(error.number)),
-          Box_Stop);
-    }
+    Tell_Save_As_Error(error);
   }
+  Undo_Keep_Pushed_Out();
 }
 
 int File_Exists(std::string_view path) {

@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "core/records.h"
-#include "core/tone_commands.h"
 #include "core/tone_files.h"
+#include "core/undo.h"
 #include "filebrowser/state.h"
 #include "platform/desktop.h"
 #include "platform/profile_file.h"
@@ -73,8 +73,7 @@ void Pick_Tone_Name() {
   if (Lower(Typed()) == No_Choice) return;
   Tone_File = Lower(Typed_Path());
   FD_Done = Flag_On;
-  Tone = Tone_Undo;
-  Patch_Rec = Patch_Undo;
+  Undo_Take_Back();
 }
 
 // --- by kind

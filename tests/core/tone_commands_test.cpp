@@ -1,5 +1,6 @@
 #include "core/tone_commands.h"
 
+#include "core/undo.h"
 #include "support/program.h"
 #include "windows/editor_window.h"
 #include "windows/modal.h"

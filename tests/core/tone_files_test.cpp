@@ -5,6 +5,7 @@
 #include "core/recent.h"
 #include "core/settings.h"
 #include "core/tone_commands.h"
+#include "core/undo.h"
 #include "support/program.h"
 #include "support/temporary_root.h"
 #include "windows/file_dlg_window.h"
@@ -164,6 +165,8 @@ TEST_F(Tone_Files, An_Edited_Sound_Saved_Over_An_Old_Name_Is_Still_On_Disk) {
   Tone_Save();
   EXPECT_EQ(root.Get("a.syx~")[7 + 34], 99) << "the edited sound";
   EXPECT_EQ(root.Get("a.syx~2")[7 + 34], 40) << "the sound before";
+  Undo_Restore();
+  EXPECT_EQ(Tone[34], 99) << "and by Undo in the editor";
 }
 
 }  // namespace
