@@ -30,13 +30,15 @@ constexpr std::string_view Recent_Files = "Recent Files";
 
 // The number that the platform gives for itself: low byte before the point, the next behind it.
 constexpr unsigned Version_Number = 0x0A04;
-constexpr int Largest_Twips = 32767;
-constexpr int Smallest_Frame_px = 100;
 
 struct Number_Range {
   int low;
   int high;
 };
+
+constexpr Number_Range Frame_Size_px{100, 32767};
+constexpr Number_Range Frame_Place_px{-32767, 32767};
+constexpr int Largest_Corner_twips = 32767;  // of the windows inside the frame
 
 // The number under a key, or the default if it lies outside the range.
 int Read_Number(std::string_view section, std::string_view key, int default_value,
@@ -45,13 +47,13 @@ int Read_Number(std::string_view section, std::string_view key, int default_valu
   return value < range.low || value > range.high ? default_value : value;
 }
 
-int Read_Twips(std::string_view section, std::string_view key, int default_px, int lowest_px) {
-  const int highest_px = Largest_Twips / Twips_Per_Pixel();
-  return Read_Number(section, key, default_px, {lowest_px, highest_px}) * Twips_Per_Pixel();
+int Read_Frame(std::string_view key, int default_px, const Number_Range& range_px) {
+  return Read_Number(Main_Window, key, default_px, range_px) * Twips_Per_Pixel();
 }
 
-int Read_Corner(std::string_view section, std::string_view key) {
-  return Read_Twips(section, key, 0, -Largest_Twips / Twips_Per_Pixel());
+int Read_Corner(std::string_view key) {
+  const int largest_px = Largest_Corner_twips / Twips_Per_Pixel();
+  return Read_Number(Windows, key, 0, {-largest_px, largest_px}) * Twips_Per_Pixel();
 }
 
 bool Read_Switch(std::string_view key, std::string_view default_value, std::string_view section = MIDI) {
@@ -93,10 +95,10 @@ constexpr std::array Directory_Rows{
 
 void Load_Frame() {
   const bool new_frames = Windows_Version() >= Version_Of_New_Frames;
-  MELVOR.left = Read_Corner(Main_Window, "Left");
-  MELVOR.top = Read_Corner(Main_Window, "Top");
-  MELVOR.width = Read_Twips(Main_Window, "Width", new_frames ? 541 : 536, Smallest_Frame_px);
-  MELVOR.height = Read_Twips(Main_Window, "Height", new_frames ? 508 : 502, Smallest_Frame_px);
+  MELVOR.left = Read_Frame("Left", 0, Frame_Place_px);
+  MELVOR.top = Read_Frame("Top", 0, Frame_Place_px);
+  MELVOR.width = Read_Frame("Width", new_frames ? 541 : 536, Frame_Size_px);
+  MELVOR.height = Read_Frame("Height", new_frames ? 508 : 502, Frame_Size_px);
   MELVOR.state = static_cast<Window_State>(Read_Number(Main_Window, "State", 0, {0, 2}));
 }
 
@@ -104,8 +106,8 @@ void Load_Corners() {
   MELVOR.Menu_Windows_SavePos.checked = Read_Switch("Save Positions", "0", Windows);
   if (!MELVOR.Menu_Windows_SavePos.checked()) return;
   for (const Corner_Row& row : Corner_Rows) {
-    *row.left = Read_Corner(Windows, row.left_key);
-    *row.top = Read_Corner(Windows, row.top_key);
+    *row.left = Read_Corner(row.left_key);
+    *row.top = Read_Corner(row.top_key);
   }
 }
 

@@ -44,12 +44,13 @@ TEST_F(Settings, The_Recent_List_Forgets_What_Is_Gone_And_Moves_What_Is_Used_Aga
 TEST_F(Settings, What_Is_Written_Reads_Back_And_Writes_The_Same_Bytes) {
   root.Make("Tones");
   root.Put("Tones/one.syx", "");
-  root.Put("MELVOR.INI",
-           "; by hand\r\n[Main Window]\r\nLeft=12\r\n[Other]\r\nKeep=me\r\n[Windows]\r\nSave Positions=1\r\n"
-           "Patch Left=-4\r\n[MIDI]\r\nAutosend=0\r\n[Recent Files]\r\nTones=C:\\TONES\r\n"
-           "Tone2=c:\\tones\\one.syx\r\n");
+  root.Put(
+      "MELVOR.INI",
+      "; by hand\r\n[Main Window]\r\nLeft=2500\r\n[Other]\r\nKeep=me\r\n[Windows]\r\nSave Positions=1\r\n"
+      "Patch Left=-4\r\n[MIDI]\r\nAutosend=0\r\n[Recent Files]\r\nTones=C:\\TONES\r\n"
+      "Tone2=c:\\tones\\one.syx\r\n");
   Settings_Load();
-  EXPECT_EQ(MELVOR.left(), 180);
+  EXPECT_EQ(MELVOR.left(), 37500);
   EXPECT_EQ(Patch_Left, -60);
   EXPECT_EQ(Dir_Tones + Recent_Tones[1], "c:\\tones\\C:\\TONES\\ONE.SYX");
   MELVOR.state = Window_State::Maximized;
