@@ -102,7 +102,7 @@ void Delete_File(bool confirmed) {
   const std::string name = Trim(File_Dlg.FD_FileName.text());
   const std::string path = Path_Slash(File_Dlg.FD_List_Dirs.path()) + name;
   const auto remove = [&] {
-    if (name != FD_Selected) File_Keep_Copy(path);
+    if (path != FD_Selected_Path) File_Keep_Copy(path);
     File_Delete(path);
   };
   if (confirmed && Error_Of(remove) != 0) {

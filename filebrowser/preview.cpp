@@ -57,8 +57,9 @@ void FD_File_Pressed() {
   FD_Selected = File_Dlg.FD_List_Files.file_name();
   FD_Selected_Kind = Selected_Kind::File;
   File_Dlg.FD_FileName.Set_Text(FD_Selected);
-  if (FD_Selected.empty()) return;
   const std::string path = Path_Slash(File_Dlg.FD_List_Files.path()) + FD_Selected;
+  FD_Selected_Path = path;
+  if (FD_Selected.empty()) return;
   if (Dlg_Kind == "Open_SYX") Hear_Tone(path);
   if (Dlg_Kind == "Open_SEQ") Hear_Sequence(path);
 }

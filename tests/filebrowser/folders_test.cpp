@@ -89,6 +89,14 @@ TEST_F(Folders_Test, Delete_Asks_First) {
   EXPECT_EQ(File_Dlg.FD_List_Files.items(), std::vector<std::string>{"B.SYX"});
   EXPECT_EQ(root.Get("work/bad.syx~"), bad) << "nobody asked about it";
 
+  root.Put("work/sub/B.SYX", "its namesake");
+  Press_File("B.SYX");
+  File_Dlg.FD_List_Dirs.Set_Path("C:\\work\\sub");
+  press_delete("B.SYX", Answer::Yes);
+  EXPECT_EQ(root.Get("work/sub/B.SYX~"), "its namesake");
+  std::filesystem::remove(root.host / "work/sub/B.SYX~");
+  File_Dlg.FD_List_Dirs.Set_Path("C:\\work");
+
   root.Put("work/sub/kept.syx", "x");
   Press_Directory("C:\\work\\sub");
   press_delete("C:\\WORK\\SUB", Answer::Yes, " could not be removed. The directory is not empty.");
