@@ -1,5 +1,6 @@
 #include "frame/closing.h"
 
+#include <initializer_list>
 #include <optional>
 
 #include "core/records.h"
@@ -14,16 +15,20 @@
 #include "sequencer/seq_commands.h"
 #include "sequencer/seq_transport.h"
 #include "windows/editor_window.h"
+#include "windows/file_dlg_window.h"
 #include "windows/frame_window.h"
+#include "windows/help_window.h"
+#include "windows/midi_setup_window.h"
 #include "windows/patch_window.h"
 #include "windows/sequencer_window.h"
 #include "windows/state.h"
+#include "windows/tname_window.h"
 
 namespace {
 
 // The closing may yet be refused, so the start buttons rise as they do after any stop.
 void Silence() {
-  if (Seq_Running == Flag_On) {
+  if (MELVOR.Seq_Tmr.enabled()) {
     MELVOR.Seq_Tmr.enabled = false;
     Seq_Running = Flag_Off;
     Seq_Start_Faces_Up();
@@ -31,10 +36,17 @@ void Silence() {
   MIDI_Reset();
 }
 
+// A dialog that is open is left as by its Cancel: the saves below need the file dialog for themselves, and
+// the closing of a sequencer would unlock what the dialog holds.
+void Leave_Dialogs() {
+  for (Form* dialog : std::initializer_list<Form*>{&File_Dlg, &Help, &TName, &MIDI_Setup}) Unload(*dialog);
+}
+
 // Asks about both unsaved things. The prompt for the sequence comes even after Cancel for the tone; what
 // counts at the end is whether anything is still unsaved, unless the last answer was Cancel.
 void Frame_Query(bool& cancel) {
   Silence();
+  Leave_Dialogs();
   if (Seq_Open == Flag_On) Unload(Sequencer);
   if (Patch_Open == Flag_On) Unload(Patch);
   std::optional<Answer> last;

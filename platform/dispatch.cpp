@@ -17,6 +17,8 @@ void Show_Failure(int number) {
 void Report_Failure() noexcept {
   try {
     throw;
+  } catch (const Program_Ended&) {
+    return;
   } catch (const Runtime_Error& error) {
     Show_Failure(error.number);
   } catch (const std::bad_alloc&) {

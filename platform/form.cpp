@@ -114,6 +114,7 @@ bool Close_Frame(Form& frame) {
   for (Form* child : children) {
     if (child->Loaded() && Refuses_Unload(*child)) return false;
   }
+  if (!frame.Loaded()) return true;  // closed once more, while a query let events run
   const std::vector<Form*> others = Form_Stack::others;
   for (Form* other : others) {
     if (other != &frame) Close(*other);  // a prompt that is open: whoever waits for it goes on

@@ -1,6 +1,7 @@
 #include "windows/modal.h"
 
 #include "platform/desktop.h"
+#include "platform/dispatch.h"
 #include "windows/editor_window.h"
 #include "windows/focus_mark.h"
 #include "windows/frame_window.h"
@@ -61,7 +62,6 @@ void Dlg_Leave() {
 }
 
 void Dlg_Wait() {
-  while (!Active_Dlg.empty()) {
-    if (Wait_Events() == 0) return;
-  }
+  while (!Active_Dlg.empty() && Wait_Events() > 0) continue;
+  if (Open_Windows() == 0) throw Program_Ended();
 }

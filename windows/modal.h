@@ -14,8 +14,8 @@ extern int Dlg_Nest;            // count of such windows now open
 void Dlg_Enter(Form& window, std::string_view name);
 void Dlg_Leave();
 
-// Lets everything run, the user's input too, until Active_Dlg is empty or no window is open any more. Sleeps
-// between events.
+// Lets everything run, the user's input too, until Active_Dlg is empty. Sleeps between events. Program_Ended
+// (platform/dispatch.h) if the program was closed meanwhile: a command that asked for a save must not go on.
 void Dlg_Wait();
 
 // Disable and enable the six top-level menus.

@@ -88,6 +88,14 @@ TEST_F(Forms, Windows_Load_Change_And_Go_In_Order_And_Back_To_Their_Design) {
   EXPECT_TRUE(desktop.quit);
 }
 
+TEST_F(Forms, A_Frame_That_Is_Closed_Again_By_What_Its_Query_Lets_Run_Goes_Once) {
+  frame.on_query_unload = [this, inner = false](bool&) mutable {
+    if (!std::exchange(inner, true)) Unload(frame);
+  };
+  EXPECT_TRUE(Unload(frame));
+  EXPECT_EQ(Story(), "one query, lost text, one unload, frame unload, ");
+}
+
 TEST_F(Forms, Keys_That_Nobody_Takes_Do_Their_Ordinary_Work) {
   for (const auto& [code, shift, told] : {std::tuple{Key::Enter, 0, "ok click, "},
                                           {Key::Tab, 0, "lost text, got ok, "},
