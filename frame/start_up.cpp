@@ -28,6 +28,7 @@
 #include "sequencer/seq_commands.h"
 #include "sequencer/seq_editor.h"
 #include "sequencer/seq_files.h"
+#include "sequencer/seq_transport.h"
 #include "sequencer/seq_window.h"
 #include "windows/editor_window.h"
 #include "windows/focus_mark.h"
@@ -115,6 +116,7 @@ void Frame_Load() {
   Seq_Clear();
   if (MELVOR.Menu_MIDI_Seq_Load.checked()) Menu_File_Seq_Recent(0);
   Show_Editor();
+  if (Seq_Loaded == Flag_On) Seq_Buttons_On();  // the Editor's load has put all pictures back
   if (MIDI_Setup_Needed == 1) Show(MIDI_Setup);
   if (MIDI_Enabled == 0) {
     MELVOR.Menu_MIDI.enabled = false;

@@ -5,6 +5,7 @@
 #include "midi/devices.h"
 #include "midi/state.h"
 #include "platform/desktop.h"
+#include "platform/timer.h"
 
 std::int32_t MIDI_Out_Handle = -1;
 MIDI_Header MIDI_Long_Hdr;
@@ -123,8 +124,10 @@ void MIDI_Out_Error(int code, std::string_view procedure) {
   if (text.empty()) text = "Unknown error";
   Message_Box(std::string(procedure) + "*: (" + std::to_string(code) + ") " + text);
   if (code < 0) return;
+  // A step that fell into the close would sound on behind its All Notes Off.
+  const Timers_Suspended until_off;
   // A device that fails for good fails the All Notes Off of this close too; that is told, but closes nothing
-  // again, and from then on no tick that falls into the close sends anything.
+  // again.
   static bool closing = false;
   if (!closing) {
     closing = true;

@@ -11,6 +11,7 @@
 #include "oscillator/field.h"
 #include "oscillator/targets.h"
 #include "platform/desktop.h"
+#include "windows/modal.h"
 
 int Osc_Step = 0;
 int Osc_Param = 0;
@@ -35,6 +36,15 @@ const std::array Message_Rows{
     Message_Row{Osc_Drives_Bend_LFO, SysEx_IPR_Patch, Pitch_Bend_LFO, false},
 };
 
+void Sound(int value) {
+  if (Active_Dlg == "MIDI_Setup") return;  // MIDI stays shut while its devices are chosen
+  if (Osc_Param == Osc_Drives_Notes) {
+    MIDI_SendNote(value, Note_Velocity);
+  } else {
+    Osc_Send(value);
+  }
+}
+
 }  // namespace
 
 void Osc_Send(int value) {
@@ -48,11 +58,7 @@ void Osc_Tick() {
   Osc_Show_Time(Osc_Step);
   const int value = Osc_Lowest_Level - Osc_Out[static_cast<std::size_t>(Osc_Step)].start;
   Oscillator.Label2.caption = std::to_string(value);
-  if (Osc_Param == Osc_Drives_Notes) {
-    MIDI_SendNote(value, Note_Velocity);
-  } else {
-    Osc_Send(value);
-  }
+  Sound(value);
   Osc_Step = Osc_Step >= Osc_Steps - 1 ? 0 : Osc_Step + 1;
   Do_Events();
 }

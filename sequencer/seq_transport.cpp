@@ -91,14 +91,14 @@ void Seq_Stop_Play() {
 }
 
 void Seq_Stop_For_Tone_Menu() {
-  if (Seq_Running != Flag_On) return;
+  if (!MELVOR.Seq_Tmr.enabled()) return;
   Stop_Timer();
   MIDI_Reset();
   Close_And_Mark_Stopped();
 }
 
 void Seq_Stop_For_Setup() {
-  if (MIDI_Enabled != 1 || Seq_Running != Flag_On) return;
+  if (!MELVOR.Seq_Tmr.enabled()) return;
   Stop_Timer();
   MIDI_Reset();
   Seq_Running = Flag_Off;
@@ -107,7 +107,7 @@ void Seq_Stop_For_Setup() {
 
 void Menu_MIDI_CloseOutput() {
   MIDI_Reset();
-  if (Seq_Running == Flag_On) {
+  if (MELVOR.Seq_Tmr.enabled()) {
     Stop_Timer();
     Close_And_Mark_Stopped();
   }

@@ -2,7 +2,11 @@
 
 #include "core/sysex.h"
 #include "frame/whole_program.h"
+#include "oscillator/targets.h"
 #include "platform/profile_file.h"
+#include "sequencer/seq_files.h"
+#include "sequencer/seq_transport.h"
+#include "windows/oscillator_window.h"
 
 namespace {
 
@@ -30,6 +34,31 @@ TEST_F(Setup, Stops_The_Sequencer_Keeps_MIDI_Shut_And_Finds_What_Was_Plugged_In)
   EXPECT_FALSE(service.Out_Is_Open() || MELVOR.Menu_MIDI.enabled() || Editor.enabled());
   EXPECT_EQ(MIDI_Setup.Output_Devices.Count(), 3);
   EXPECT_EQ(MIDI_Setup.Output_Devices.Selected_Text() + MIDI_Setup.Channel.Selected_Text(), "Two3");
+}
+
+// It may run with MIDI off after an error, or on the empty matrix of a new sequence.
+TEST_F(Setup, No_Clock_Sends_Behind_A_Closed_Output) {
+  Play();
+  service.Fail_Next("Out_Short", 68);
+  desktop.Expect_Box(Answer::Ok);
+  desktop.Advance_ms(1000);
+  EXPECT_EQ(MIDI_Enabled, 0);
+  Choose(MELVOR.Menu_MIDI_Setup);
+  User_Checked(MIDI_Setup.Enable, true);
+  desktop.Advance_ms(1000);
+  desktop.Key(Key::Escape);
+  EXPECT_EQ(MIDI_Enabled, 1);
+
+  Play();
+  Seq_Clear();
+  Menu_MIDI_CloseOutput();
+  Choose(MELVOR.Menu_MIDI_Osc);
+  Oscillator.Combo1.Select(static_cast<int>(Osc_Targets.size()) - 1);
+  desktop.Click(Oscillator.Osc_Start);
+  EXPECT_TRUE(service.Out_Is_Open());
+  Choose(MELVOR.Menu_MIDI_Setup);
+  desktop.Advance_ms(2000);
+  EXPECT_FALSE(service.Out_Is_Open());
 }
 
 TEST_F(Setup, Lists_Take_Effect_On_OK_And_Switches_At_Once) {

@@ -2,6 +2,9 @@
 #include "core/sysex.h"
 #include "core/tone_commands.h"
 #include "frame/whole_program.h"
+#include "midi/output.h"
+#include "windows/file_dlg_window.h"
+#include "windows/pictures.h"
 #include "windows/sequencer_window.h"
 
 namespace {
@@ -40,6 +43,7 @@ TEST_F(Frame, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
   root.Put("a.seq", "SEQ1" + Bytes_Of("3C 30 7F") + std::string(103, '\0'));
   ASSERT_TRUE(Start(preload + "[Recent Files]\nSequence1=C:\\A.SEQ\n"));
   EXPECT_EQ(Seq_Data[0], 127);
+  EXPECT_EQ(Editor.ED_Seq_Start_Pic.picture(), Start_Enabled);
   Unload(MELVOR);
   ASSERT_TRUE(Start(preload));
   EXPECT_EQ(Seq_Data[0], 0);
@@ -48,8 +52,8 @@ TEST_F(Frame, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
 TEST_F(Frame, A_Recent_Tone_Is_Saved_Under_Its_Own_Name) {
   const std::string tone = Bytes_Of("F0 41 35 00 21 20 01") + std::string(59, 'a') + "\xF7";
   for (const char* name : {"a.syx", "b.syx", "c.syx"}) root.Put(name, tone);
-  ASSERT_TRUE(Start(std::string(Configured) +
-                    "[Recent Files]\nTone1=C:\\a.syx\nTone2=C:\\b.syx\nTone3=C:\\c.syx\n"));
+  ASSERT_TRUE(
+      Start(std::string(Configured) + "[Recent Files]\nTone1=C:\\a.syx\nTone2=C:\\b.syx\nTone3=C:\\c.syx\n"));
   Choose(MELVOR.Menu_File_SYX_3);
   EXPECT_EQ(Tone_File, "C:\\C.SYX");
   Choose(MELVOR.Menu_File_SYX_2);
@@ -91,6 +95,53 @@ TEST_F(Frame, Closing_While_It_Waits_For_A_Tone_Keeps_Autosend_In_The_Settings) 
   EXPECT_EQ(Receive_On - Autosend, 1);
   Unload(MELVOR);
   EXPECT_NE(root.Get("MELVOR.INI").find("Autosend=1"), std::string::npos);
+}
+
+// The question comes again, from the closing that falls into the wait of the first one's Save As.
+TEST_F(Frame, Closing_In_The_Wait_Of_A_Save_As_Ends_What_Waited) {
+  for (Menu_Item* command : {&MELVOR.Menu_File_SYX_New, &MELVOR.Menu_File_SYX_Open, &MELVOR.Menu_File_Exit}) {
+    ASSERT_TRUE(Start(std::string(Configured) + "[Main Window]\nLeft=70\n"));
+    desktop.quit = false;
+    Tone_Saved = Flag_False;
+    desktop.Expect_Box(Answer::Yes, "Save actual TONE first?");
+    desktop.At_Wait([this] {
+      desktop.Expect_Box(Answer::No, "Save actual TONE first?");
+      EXPECT_TRUE(File_Dlg.Loaded() && Unload(MELVOR));
+    });
+    service.Take_Hex();
+    Choose(*command);
+    EXPECT_FALSE(File_Dlg.Loaded() || service.Out_Is_Open());
+    for (const std::string& sent : service.Take_Hex()) EXPECT_EQ(sent, "B0 7B 00");
+    EXPECT_NE(root.Get("MELVOR.INI").find("Left=70"), std::string::npos);
+  }
+}
+
+TEST_F(Frame, Closing_Beside_A_Dialog_Leaves_It_And_Saves_By_One_Of_Its_Own) {
+  ASSERT_TRUE(Start());
+  Choose(MELVOR.Menu_MIDI_Seq);
+  Choose(MELVOR.Menu_File_SYX_Open);
+  Seq_Saved = Flag_Off;
+  desktop.Expect_Box(Answer::Yes, "Save actual SEQUENCE first?");
+  desktop.At_Wait([] {
+    EXPECT_EQ(File_Dlg.FD_List_Files.pattern(), "*.SEQ");
+    Unload(File_Dlg);
+  });
+  EXPECT_FALSE(Unload(MELVOR));
+  EXPECT_TRUE(Active_Dlg.empty() && Editor.enabled());
+}
+
+TEST_F(Frame, A_Failed_Note_Leaves_None_Of_The_Sequencer_Sounding) {
+  ASSERT_TRUE(Start());
+  Play();
+  service.Fail_Next("Out_Short", 67);
+  desktop.on_other_box = [this] {
+    desktop.Advance_ms(1000);  // steps fall due behind the box
+    return Answer::Ok;
+  };
+  MIDI_SendNote(60, 127);
+  desktop.Advance_ms(1000);
+  EXPECT_EQ(service.Take_Hex().back(), "B0 7B 00");
+  EXPECT_EQ(desktop.boxes.size(), 1U);
 }
 
 TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
