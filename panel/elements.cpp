@@ -72,6 +72,7 @@ void Slider_Drag(Picture_Box& cap, const Element_Range& range, float y) {
 
 void Switch_Place(Picture_Box& cap, const Element_Range& range) {
   const int value = Tone[range.index];
+  if (value > Value_Limit) return;
   if (!Is_Three_Way(range.index)) {
     cap.top = Switch_Top_At(range.top, value);
     return;

@@ -26,7 +26,8 @@ void Slider_Place(Picture_Box& cap, const Element_Range& range);
 void Switch_Key(Picture_Box& cap, const Element_Range& range, int key_code);
 // Stores the value at once; sends it only if Drag_Step_Counts.
 void Switch_Drag(Picture_Box& cap, const Element_Range& range, float y);
-// Places the cap by the band of its value; a three-way switch leaves it alone in the gaps between its bands.
+// Places the cap by the band of its value; a three-way switch leaves it alone in the gaps between its bands,
+// any switch beyond 127.
 void Switch_Place(Picture_Box& cap, const Element_Range& range);
 
 // Place of a slider's cap for a value: its base line minus up to 80 pixels.

@@ -36,6 +36,10 @@ TEST_F(Elements, Keys_Move_Each_Kind_By_Its_Own_Rule) {
   Key_On(range, Key::Letter_A);
   EXPECT_TRUE(Sent().empty());
   EXPECT_EQ(Tone_Saved, Flag_True);
+  Tone[11] = 200;  // of a damaged file
+  range.top = 42;
+  Key_On(range, Key::Letter_A);
+  EXPECT_EQ(range.top(), 42) << "no position, and none beside the slot";
 }
 
 TEST_F(Elements, What_Has_The_Focus_Moves_Though_Nothing_Or_Something_Closed_Is_Selected) {
