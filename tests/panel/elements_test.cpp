@@ -1,6 +1,7 @@
 #include "panel/elements.h"
 
 #include "panel/editor_fixture.h"
+#include "panel/push_buttons.h"
 #include "windows/modal.h"
 #include "windows/patch_window.h"
 
@@ -62,6 +63,20 @@ TEST_F(Elements, What_Has_The_Focus_Moves_Though_Nothing_Or_Something_Closed_Is_
     Dlg_Leave();
     EXPECT_EQ(Active_Ctl, &cutoff) << "where the focus has stayed";
   }
+}
+
+TEST_F(Elements, A_Held_Space_Bar_Presses_Once) {
+  int clicks = 0;
+  Form window{Form_Role::Child, "Window"};
+  Picture_Box button{window, "Button"};
+  button.tab_index = 0;
+  button.on_click = [&] { ++clicks; };
+  Work_By_Space(button);
+  Show(window);
+  for (const bool repeated : {false, true, true, false}) {
+    EXPECT_TRUE(Key_Down(window, &button, {Key::Space, 0, repeated}, 0)) << "used up";
+  }
+  EXPECT_EQ(clicks, 2);
 }
 
 TEST_F(Elements, A_Press_Sends_The_Present_Value_But_Not_That_Of_A_Switch) {

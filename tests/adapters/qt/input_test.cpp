@@ -69,7 +69,9 @@ TEST(Keys, Codes_Shift_States_And_Characters) {
     EXPECT_EQ(std::tuple(Key_Of(event).code, Key_Of(event).shift, Character_Of(event)),
               std::tuple(code, shift, character))
         << std::hex << key;
+    EXPECT_FALSE(Key_Of(event).repeated);
   }
+  EXPECT_TRUE(Key_Of(QKeyEvent(QEvent::KeyPress, Qt::Key_Space, {}, " ", true)).repeated);
 }
 
 TEST_F(Desk, A_Key_That_Is_Taken_Does_Not_Reach_The_Text_Field) {
