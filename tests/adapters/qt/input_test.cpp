@@ -91,6 +91,22 @@ TEST_F(Desk, A_Key_That_Is_Taken_Does_Not_Reach_The_Text_Field) {
   EXPECT_EQ(text.selection_start(), 1);
 }
 
+TEST_F(Desk, A_Key_That_Is_Released_And_Pressed_In_One_Moment_Is_Held) {
+  knob.on_key_down = [&](const Key_Event& key) { Note(key.repeated ? "held" : "pressed"); };
+  Show_Windows();
+  Set_Focus(knob);
+  for (const auto& [type, time_ms] : {std::pair{QEvent::KeyPress, 5},
+                                      {QEvent::KeyRelease, 9},
+                                      {QEvent::KeyPress, 9},
+                                      {QEvent::KeyRelease, 12},
+                                      {QEvent::KeyPress, 20}}) {
+    QKeyEvent event(type, Qt::Key_Space, {}, " ");
+    event.setTimestamp(static_cast<quint64>(time_ms));
+    QApplication::sendEvent(QApplication::focusWidget(), &event);
+  }
+  EXPECT_EQ(log, (Texts{"pressed", "held", "pressed"}));
+}
+
 TEST_F(Desk, What_The_Program_Sets_Comes_Back_As_No_Users_Action) {
   Scroll_Bar bar(panel, "Bar");
   bar.Place(0, 0, 16, 150);
