@@ -22,12 +22,12 @@ constexpr int Half = 64;
 void Wire_Slider(const Slider_Row& row) {
   Picture_Box& element = Editor.*row.element;
   Mark_On_Focus(element, element);
-  element.on_key_down = [&row](Key_Event& key) { Slider_Key(row.range, key.code); };
+  element.on_key_down = [&element, &row](Key_Event& key) { Slider_Key(element, row.range, key.code); };
   element.on_mouse_down = [&row](const Mouse_Event&) {
     Tone_Param_Set(row.range.index, Tone[row.range.index]);
   };
-  element.on_mouse_move = [&row](const Mouse_Event& event) {
-    if (event.button != 0) Slider_Drag(row.range, event.y);
+  element.on_mouse_move = [&element, &row](const Mouse_Event& event) {
+    if (event.button != 0) Slider_Drag(element, row.range, event.y);
   };
   Tell_99(element, Page_Of_Slider, [&row] { return int{Tone[row.range.index]}; });
 }
@@ -47,9 +47,9 @@ int Band_Of(Bands bands, int value) {
 void Wire_Switch(const Switch_Row& row) {
   Picture_Box& element = Editor.*row.element;
   Mark_On_Focus(element, element);
-  element.on_key_down = [&row](Key_Event& key) { Switch_Key(row.range, key.code); };
-  element.on_mouse_move = [&row](const Mouse_Event& event) {
-    if (event.button != 0) Switch_Drag(row.range, event.y);
+  element.on_key_down = [&element, &row](Key_Event& key) { Switch_Key(element, row.range, key.code); };
+  element.on_mouse_move = [&element, &row](const Mouse_Event& event) {
+    if (event.button != 0) Switch_Drag(element, row.range, event.y);
   };
   Tell_Position(element, {row.positions.begin(), row.positions.end()},
                 [&row] { return Band_Of(row.bands, Tone[row.range.index]); });

@@ -38,10 +38,6 @@ struct Three_Way_Row {
 constexpr std::array Three_Way_Rows{Three_Way_Row{0, 15, 2}, Three_Way_Row{32, 47, 1},
                                     Three_Way_Row{64, 96, 0}};
 
-void Place_Selected(int top) {
-  if (Active_Ctl != nullptr) Active_Ctl->top = top;
-}
-
 void Tune_Set(int index, int semitones) {
   Knob_Mark(Tune_Circle, semitones);
   Tone_Param_Set(index, Semitone_Value(semitones));
@@ -58,35 +54,39 @@ int Slider_Top_At(int bottom, int value) { return bottom - Slider_Offset_px(valu
 
 int Switch_Top_At(int top, int value) { return top + Switch_Row_px * (Positions - 1 - value / Band); }
 
-void Slider_Place(const Element_Range& range) {
-  Place_Selected(Slider_Top_At(range.bottom, Tone[range.index]));
+void Slider_Place(Picture_Box& cap, const Element_Range& range) {
+  cap.top = Slider_Top_At(range.bottom, Tone[range.index]);
 }
 
-void Slider_Key(const Element_Range& range, int key_code) {
+void Slider_Key(Picture_Box& cap, const Element_Range& range, int key_code) {
   if (const auto value = Slider_Key_Value(Tone[range.index], key_code, Page_Of_Slider)) {
     Tone_Param_Set(range.index, *value);
   }
-  Slider_Place(range);
+  Slider_Place(cap, range);
 }
 
-void Slider_Drag(const Element_Range& range, float y) {
+void Slider_Drag(Picture_Box& cap, const Element_Range& range, float y) {
   Tone_Param_Set(range.index, Slider_Drag_Value(Tone[range.index], y));
-  Slider_Place(range);
+  Slider_Place(cap, range);
 }
 
-void Switch_Place(const Element_Range& range) {
+void Switch_Place(Picture_Box& cap, const Element_Range& range) {
   const int value = Tone[range.index];
-  if (!Is_Three_Way(range.index)) return Place_Selected(Switch_Top_At(range.top, value));
+  if (value > Value_Limit) return;
+  if (!Is_Three_Way(range.index)) {
+    cap.top = Switch_Top_At(range.top, value);
+    return;
+  }
   for (const Three_Way_Row& row : Three_Way_Rows) {
-    if (value >= row.low && value <= row.high) Place_Selected(range.top + Switch_Row_px * row.rows_below_top);
+    if (value >= row.low && value <= row.high) cap.top = range.top + Switch_Row_px * row.rows_below_top;
   }
 }
 
-void Switch_Key(const Element_Range& range, int key_code) {
+void Switch_Key(Picture_Box& cap, const Element_Range& range, int key_code) {
   if (const auto value = Switch_Key_Value(Tone[range.index], key_code, Is_Three_Way(range.index))) {
     Tone_Param_Set(range.index, *value);
   }
-  Switch_Place(range);
+  Switch_Place(cap, range);
 }
 
 bool Drag_Step_Counts(int index, int value) {
@@ -96,10 +96,10 @@ bool Drag_Step_Counts(int index, int value) {
   return counts;
 }
 
-void Switch_Drag(const Element_Range& range, float y) {
+void Switch_Drag(Picture_Box& cap, const Element_Range& range, float y) {
   const int value = Switch_Drag_Value(Tone[range.index], y);
   Tone[range.index] = To_Byte(value);
-  Switch_Place(range);
+  Switch_Place(cap, range);
   if (Drag_Step_Counts(range.index, value)) Tone_Param_Send(range.index);
   Tone_Saved = Flag_False;
 }

@@ -1,6 +1,6 @@
 // The panel elements of the tone: sliders, lever switches and knobs, their places and what keys and mouse do
-// to them. Called by the handlers of the Editor's elements. The selected element (Active_Ctl) is the one that
-// moves.
+// to them. Called by the handlers of the Editor's elements. A slider or switch is told which cap moves, so
+// that cap and value never part; of a knob the selected dot (Active_Ctl) moves.
 #pragma once
 
 #include <string_view>
@@ -18,16 +18,17 @@ constexpr int Switch_Row_px = 10;  // between two positions of a switch
 
 // A key on a slider: the new value is stored, shown and sent, the cap placed. Any other key places the cap
 // only.
-void Slider_Key(const Element_Range& range, int key_code);
+void Slider_Key(Picture_Box& cap, const Element_Range& range, int key_code);
 // One move of the mouse with a button held, y from the top edge of the cap.
-void Slider_Drag(const Element_Range& range, float y);
-void Slider_Place(const Element_Range& range);
+void Slider_Drag(Picture_Box& cap, const Element_Range& range, float y);
+void Slider_Place(Picture_Box& cap, const Element_Range& range);
 
-void Switch_Key(const Element_Range& range, int key_code);
+void Switch_Key(Picture_Box& cap, const Element_Range& range, int key_code);
 // Stores the value at once; sends it only if Drag_Step_Counts.
-void Switch_Drag(const Element_Range& range, float y);
-// Places the cap by the band of its value; a three-way switch leaves it alone in the gaps between its bands.
-void Switch_Place(const Element_Range& range);
+void Switch_Drag(Picture_Box& cap, const Element_Range& range, float y);
+// Places the cap by the band of its value; a three-way switch leaves it alone in the gaps between its bands,
+// any switch beyond 127.
+void Switch_Place(Picture_Box& cap, const Element_Range& range);
 
 // Place of a slider's cap for a value: its base line minus up to 80 pixels.
 int Slider_Top_At(int bottom, int value);

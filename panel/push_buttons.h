@@ -15,7 +15,8 @@ void Push_Up_Wide(Picture_Box& button);
 // Fills the button's mouse slots so that it goes down with the press and rises with the release.
 void Push_On_Mouse(Picture_Box& button);
 
-// The space bar works the element as the left mouse button does: press, release, click.
+// The space bar works the element as the left mouse button does: press, release, click. Once, however
+// long it is held.
 void Work_By_Space(Picture_Box& element);
 
 // Lights with a state, kept as a number in the tag: 0 off, else on. Disabled ones do not change, but for

@@ -42,6 +42,7 @@ constexpr int Middle_Button = 4;
 struct Key_Event {
   int code = 0;
   int shift = 0;
+  bool repeated = false;  // the key is held, and this is not its first press
 };
 
 // x and y in pixels of the control that was pressed, from its top left corner; outside it they are negative

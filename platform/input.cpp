@@ -126,6 +126,9 @@ Mouse_Target Target(Control& pressed, Mouse_Event event) {
 
 // More keys than any way from one end of a scale to the other needs.
 constexpr int Most_Keys = 128;
+// One key may leave the number as it was, where two bytes show the same one; the next changes it, or none
+// does.
+constexpr int Most_Idle_Keys = 2;
 
 bool Can_Work(const Control& control) {
   return control.form.Loaded() && control.form.enabled() && Shown_In_Form(control) &&
@@ -248,8 +251,8 @@ void User_Stepped(Picture_Box& element, bool upwards) {
   if (Can_Work(element)) Press_Key(element, Step_Key(element, upwards));
 }
 
-// The ends have keys of their own, which reach the last byte too. The way ends where the keys pass the value:
-// not every number can be reached.
+// The ends have keys of their own, which reach the last byte too. The way ends where the keys pass the value,
+// since not every number can be reached, and where they change it no more.
 void User_Turned(Picture_Box& element, int value) {
   const Scale& scale = element.scale;
   if (scale.lowest == scale.highest || !Can_Work(element)) return;
@@ -258,12 +261,15 @@ void User_Turned(Picture_Box& element, int value) {
   const auto away = [&] { return upwards ? wanted - scale.value() : scale.value() - wanted; };
   if (away() > 0 && wanted == scale.highest) Press_Key(element, Key::Home);
   if (away() > 0 && wanted == scale.lowest) Press_Key(element, Key::End);
-  for (int keys = 0; keys < Most_Keys && Can_Work(element) && away() > 0; ++keys) {
+  int idle = 0;
+  for (int keys = 0; keys < Most_Keys && idle < Most_Idle_Keys && Can_Work(element) && away() > 0; ++keys) {
+    const int before = scale.value();
     if (away() >= scale.page) {
       Press_Key(element, upwards ? Key::Page_Up : Key::Page_Down);
     } else {
       Press_Key(element, Step_Key(element, upwards));
     }
+    idle = scale.value() == before ? idle + 1 : 0;
   }
 }
 

@@ -21,6 +21,12 @@ void Menus_Set(bool enabled) {
   }
 }
 
+// The selected element of before may be gone; then the one that has kept the focus is selected.
+void Select_Focused() {
+  const Control* focused = Focused_Control();
+  if (focused != nullptr && focused != Active_Ctl && focused->on_got_focus) focused->on_got_focus();
+}
+
 }  // namespace
 
 void Menus_Disable() { Menus_Set(false); }
@@ -57,6 +63,7 @@ void Dlg_Leave() {
   Menus_Enable();
   Active_Ctl = Saved_Ctl;
   if (Active_Ctl != nullptr) Set_Focus(*Active_Ctl);
+  Select_Focused();
   Editor.Timer1.enabled = true;
   --Dlg_Nest;
 }

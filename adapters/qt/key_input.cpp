@@ -12,6 +12,10 @@
 #include "platform/input.h"
 
 bool Key_Input::Filter(QWidget& receiver, QKeyEvent& event) {
+  if (event.type() == QEvent::KeyRelease) {
+    released_key_ = event.key();
+    released_ms_ = event.timestamp();
+  }
   // Open menus and drop-down lists, and a menu bar that is worked by keys, have their own ways.
   if (QApplication::activePopupWidget() != nullptr || qobject_cast<QMenuBar*>(&receiver) != nullptr)
     return false;
@@ -39,15 +43,22 @@ Form* Key_Input::Target(const QWidget& receiver) const {
   return &shell_.frame->form;
 }
 
+// An event that was made up has no time.
+bool Key_Input::Repeats(const QKeyEvent& event) const {
+  return event.timestamp() != 0 && event.timestamp() == released_ms_ && event.key() == released_key_;
+}
+
 bool Key_Input::Press(QWidget& receiver, QKeyEvent& event) {
   shell_.mouse.Send_Pending();
   Form* form = Target(receiver);
   if (form == nullptr) return true;
   Control* control = form->focus;
+  Key_Event key = Key_Of(event);
+  key.repeated = key.repeated || Repeats(event);
   bool used = true;
   {
     const Shell::Event scope(shell_);
-    used = Key_Down(*form, control, Key_Of(event), Character_Of(event));
+    used = Key_Down(*form, control, key, Character_Of(event));
   }
   if (!used && shell_.View_Of(*form) != nullptr && form->focus == control)
     Leave_To_Widget(*form, receiver, event);

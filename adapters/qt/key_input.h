@@ -2,6 +2,8 @@
 // is left. User-interface thread only.
 #pragma once
 
+#include <cstdint>
+
 class QKeyEvent;
 class QWidget;
 struct Form;
@@ -14,9 +16,14 @@ struct Key_Input {
   bool Filter(QWidget& receiver, QKeyEvent& event);
 
  private:
+  bool Repeats(const QKeyEvent& event) const;
   Form* Target(const QWidget& receiver) const;
   bool Press(QWidget& receiver, QKeyEvent& event);
   void Leave_To_Widget(Form& form, QWidget& receiver, QKeyEvent& event);
 
   Shell& shell_;
+  // The last release of a key. A held key under X is released and pressed again in one moment, which the
+  // toolkit does not always see.
+  int released_key_ = 0;
+  std::uint64_t released_ms_ = 0;
 };

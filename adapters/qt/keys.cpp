@@ -74,7 +74,7 @@ int Code_Of(int qt_key, bool keypad) {
 
 Key_Event Key_Of(const QKeyEvent& event) {
   Key_Event key{Code_Of(event.key(), event.modifiers().testFlag(Qt::KeypadModifier)),
-                Shift_State(event.modifiers())};
+                Shift_State(event.modifiers()), event.isAutoRepeat()};
   if (event.key() == Qt::Key_Backtab) key.shift |= Shift_Key;
   return key;
 }

@@ -8,7 +8,7 @@ class QKeyEvent;
 // A key that has no code of the program's own. Not zero: zero is a key that was taken.
 constexpr int Other_Key = 255;
 
-// The key code and shift state. Back-tab is Tab with Shift.
+// The key code, the shift state, and whether a held key repeats itself. Back-tab is Tab with Shift.
 Key_Event Key_Of(const QKeyEvent& event);
 
 // The character that the key types, 0 for none; Backspace, Tab, Enter and Escape type 8, 9, 13 and 27.

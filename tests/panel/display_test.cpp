@@ -4,6 +4,7 @@
 #include "panel/input_box.h"
 #include "panel/tone_name.h"
 #include "platform/directories.h"
+#include "platform/text.h"
 #include "windows/input_dlg_window.h"
 #include "windows/modal.h"
 #include "windows/tname_window.h"
@@ -54,10 +55,11 @@ TEST_F(Display_Test, The_Prompt_Waits_For_Its_Answer) {
        {Row{[&] { desktop.Key(Key::Enter, 0, 13); }, "second"}, Row{[] { User_Closes(Input_Dlg); }, ""},
         Row{[] { Unload(MELVOR); }, ""}}) {  // the end of the program ends the wait
     desktop.At_Wait([&] {
+      EXPECT_EQ(Plain_Caption(Input_Dlg.Input_Msg.caption()), "One\rtwo\rR&D");
       desktop.Type(Input_Dlg.Input_Textbox, "second");
       answer();
     });
-    EXPECT_EQ(Input_Box("One\rtwo\rthree", "New folder", "first"), result);
+    EXPECT_EQ(Input_Box("One\rtwo\rR&D", "New folder", "first"), result);
   }
 }
 

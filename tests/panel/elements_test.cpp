@@ -1,6 +1,9 @@
 #include "panel/elements.h"
 
 #include "panel/editor_fixture.h"
+#include "panel/push_buttons.h"
+#include "windows/modal.h"
+#include "windows/patch_window.h"
 
 namespace {
 
@@ -34,6 +37,46 @@ TEST_F(Elements, Keys_Move_Each_Kind_By_Its_Own_Rule) {
   Key_On(range, Key::Letter_A);
   EXPECT_TRUE(Sent().empty());
   EXPECT_EQ(Tone_Saved, Flag_True);
+  Tone[11] = 200;  // of a damaged file
+  range.top = 42;
+  Key_On(range, Key::Letter_A);
+  EXPECT_EQ(range.top(), 42) << "no position, and none beside the slot";
+}
+
+TEST_F(Elements, What_Has_The_Focus_Moves_Though_Nothing_Or_Something_Closed_Is_Selected) {
+  Picture_Box& cutoff = Editor.VCF_CutoffF;
+  Picture_Box& wave = Editor.DCO1_Waveform;
+  for (Picture_Box* selected : {static_cast<Picture_Box*>(nullptr), &Patch.Portamento_Time}) {
+    Have(34, 64);
+    Have(12, 0);
+    Set_Focus(wave);
+    Active_Ctl = selected;
+    desktop.Key(Key::Home);
+    EXPECT_EQ(wave.top(), 32);
+    desktop.Move(wave, 4, 90);
+    EXPECT_EQ(wave.top(), 52);
+    Set_Focus(cutoff);
+    Active_Ctl = selected;
+    desktop.Move(cutoff, 4, -10);
+    EXPECT_EQ(cutoff.top(), 66);
+    Saved_Ctl = selected;
+    Dlg_Leave();
+    EXPECT_EQ(Active_Ctl, &cutoff) << "where the focus has stayed";
+  }
+}
+
+TEST_F(Elements, A_Held_Space_Bar_Presses_Once) {
+  int clicks = 0;
+  Form window{Form_Role::Child, "Window"};
+  Picture_Box button{window, "Button"};
+  button.tab_index = 0;
+  button.on_click = [&] { ++clicks; };
+  Work_By_Space(button);
+  Show(window);
+  for (const bool repeated : {false, true, true, false}) {
+    EXPECT_TRUE(Key_Down(window, &button, {Key::Space, 0, repeated}, 0)) << "used up";
+  }
+  EXPECT_EQ(clicks, 2);
 }
 
 TEST_F(Elements, A_Press_Sends_The_Present_Value_But_Not_That_Of_A_Switch) {

@@ -60,6 +60,20 @@ TEST_F(Meanings, A_Number_Is_Reached_By_Keys) {
   }
   User_Turned(Patch.UDTune_Knopf, 3);
   EXPECT_EQ(Patch.UDTune_Knopf.scale.value(), 3) << "though its arrow keys do nothing";
+  // One by one, though several numbers stand for two bytes.
+  for (Picture_Box* element : {&Editor.VCF_CutoffF, &Editor.DCO2_FTune}) {
+    for (int number = element->scale.lowest; number <= element->scale.highest; ++number) {
+      User_Turned(*element, number);
+      EXPECT_EQ(element->scale.value(), number) << element->name;
+    }
+  }
+}
+
+TEST_F(Meanings, The_Keys_End_Where_They_Change_Nothing) {
+  Patch_Rec[0] = 90;
+  Patch.Pitch_Bend_Range.top = 28;  // as a drag that left the cap can leave it
+  User_Turned(Patch.Pitch_Bend_Range, 3);
+  EXPECT_EQ(Sent().size(), 2U);
 }
 
 TEST_F(Meanings, A_Locked_Window_Stays_As_It_Is) {

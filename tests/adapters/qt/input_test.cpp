@@ -69,7 +69,9 @@ TEST(Keys, Codes_Shift_States_And_Characters) {
     EXPECT_EQ(std::tuple(Key_Of(event).code, Key_Of(event).shift, Character_Of(event)),
               std::tuple(code, shift, character))
         << std::hex << key;
+    EXPECT_FALSE(Key_Of(event).repeated);
   }
+  EXPECT_TRUE(Key_Of(QKeyEvent(QEvent::KeyPress, Qt::Key_Space, {}, " ", true)).repeated);
 }
 
 TEST_F(Desk, A_Key_That_Is_Taken_Does_Not_Reach_The_Text_Field) {
@@ -87,6 +89,22 @@ TEST_F(Desk, A_Key_That_Is_Taken_Does_Not_Reach_The_Text_Field) {
   Type(Qt::Key_N, Qt::ControlModifier);
   EXPECT_EQ(log, (Texts{"c", "new"}));
   EXPECT_EQ(text.selection_start(), 1);
+}
+
+TEST_F(Desk, A_Key_That_Is_Released_And_Pressed_In_One_Moment_Is_Held) {
+  knob.on_key_down = [&](const Key_Event& key) { Note(key.repeated ? "held" : "pressed"); };
+  Show_Windows();
+  Set_Focus(knob);
+  for (const auto& [type, time_ms] : {std::pair{QEvent::KeyPress, 5},
+                                      {QEvent::KeyRelease, 9},
+                                      {QEvent::KeyPress, 9},
+                                      {QEvent::KeyRelease, 12},
+                                      {QEvent::KeyPress, 20}}) {
+    QKeyEvent event(type, Qt::Key_Space, {}, " ");
+    event.setTimestamp(static_cast<quint64>(time_ms));
+    QApplication::sendEvent(QApplication::focusWidget(), &event);
+  }
+  EXPECT_EQ(log, (Texts{"pressed", "held", "pressed"}));
 }
 
 TEST_F(Desk, What_The_Program_Sets_Comes_Back_As_No_Users_Action) {
