@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/recent.h"
+#include "core/tone_commands.h"
 #include "midi/state.h"
 #include "platform/desktop.h"
 #include "platform/drives.h"
@@ -151,7 +152,7 @@ void Save_Frame() {
 
 void Save_Switches() {
   Write_Number(MIDI, "Autoplay", Autoplay);
-  Write_Number(MIDI, "Autosend", Autosend);
+  Write_Number(MIDI, "Autosend", Autosend_Chosen());
   Write_Switch(MIDI, "Sequence Preload", MELVOR.Menu_MIDI_Seq_Load.checked());
   Write_Number(MIDI, "Soundcheck", Soundcheck);
   Write_Number(MIDI, "Soundcheck Note", Soundcheck_Note);
