@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <cstdlib>
 
 #include "adapters/alsa/alsa_backend.h"
 #include "adapters/instrument/instrument.h"
@@ -29,15 +30,18 @@ int main(int argc, char** argv) {
   Qt_Desktop desktop(pictures);
   Install_Desktop(&desktop);
 
-  Alsa::Alsa_Backend alsa;
-  Jack::Jack_Backend jack;
-  Instrument::Built_In built_in;
-  Midi::Service service({&alsa, &jack, &built_in});
+  // Static, so that they take their leave of the systems behind them also where the toolkit ends the process.
+  static Alsa::Alsa_Backend alsa;
+  static Jack::Jack_Backend jack;
+  static Instrument::Built_In built_in;
+  static Midi::Service service({&alsa, &jack, &built_in});
   Install_Midi_Service(&service);
 
   On_End_Signal([] { Dispatch(End_Without_Questions); });
   bool started = false;
   Dispatch([&] { started = Start_Up(); });
+  // Registered behind all that it uses, which so outlives it.
+  std::atexit(End_Without_Desktop);
   const int result = started ? desktop.Run() : 1;
 
   Install_Midi_Service(nullptr);

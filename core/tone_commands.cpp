@@ -107,6 +107,8 @@ void Tone_Receive_Toggle() {
   }
 }
 
+std::uint8_t Autosend_Chosen() { return Receive_On != 0 ? autosend_kept : Autosend; }
+
 void Tone_From_SysEx(const Byte_String& message) {
   const std::size_t end = std::min(message.size(), Dump_First_Byte + Tone_Size);
   for (std::size_t place = Dump_First_Byte; place < end; ++place) {

@@ -21,6 +21,8 @@ void Tone_Send();
 void Tone_Receive();
 // Starts or ends the wait. Starting opens the MIDI input; if that fails nothing changes.
 void Tone_Receive_Toggle();
+// The user's choice, which stays while the wait has Autosend at 0.
+std::uint8_t Autosend_Chosen();
 // Called when Receive_On has changed: the sequencer's buttons show it.
 extern std::function<void()> Receive_Changed;
 

@@ -64,7 +64,7 @@ void Frame_Query(bool& cancel) {
 }
 
 void Frame_Unload() {
-  if (Receive_On != 0) Tone_Receive_Toggle();  // the wait has Autosend at 0, which is nobody's setting
+  if (Receive_On != 0) Tone_Receive_Toggle();
   Pics_Release_Font();
   MELVOR.Timer_Display.enabled = false;
   Editor.Timer1.enabled = false;

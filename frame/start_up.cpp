@@ -11,6 +11,7 @@
 #include "frame/help_examples.h"
 #include "frame/menus.h"
 #include "frame/midi_setup.h"
+#include "midi/output.h"
 #include "midi/setup.h"
 #include "midi/state.h"
 #include "oscillator/window.h"
@@ -148,4 +149,11 @@ bool Start_Up() {
 void End_Without_Questions() {
   The_Desktop().Quit();  // from here on no box waits for anybody, not even that of a device that has gone
   if (Started) Close_Unasked();  // else the settings are not all read, and must not be written
+}
+
+void End_Without_Desktop() {
+  if (!Started || !MELVOR.Loaded() || !Desktop_Installed()) return;
+  MIDI_Out_Cut();
+  Autosend = Autosend_Chosen();
+  Settings_Save();
 }

@@ -9,3 +9,7 @@ bool Start_Up();
 // Ends the program in order without questions or any other box, for a signal of the system: clock off, All
 // Notes Off, settings written. During the start it only makes an end.
 void End_Without_Questions();
+
+// For std::atexit: the toolkit ends the process where it stands when its display goes. All Notes Off,
+// settings written, without events or windows. Does nothing during the start or after the end.
+void End_Without_Desktop();

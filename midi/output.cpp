@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::uint32_t Data_1_Shift = 8;
 constexpr std::uint32_t Data_2_Shift = 16;
+constexpr int Most_Asked = 100;  // each answer takes 10 ms at most
 
 // What the sequencer's fast path sent last, and what came of it.
 int Seq_Note = 0;
@@ -56,6 +57,14 @@ void MIDI_Out_Close() {
 
 void MIDI_Out_Close_Wholly() {
   while (MIDI_Out_Handle != -1 && MIDI_Enabled == 1) MIDI_Out_Close();
+}
+
+void MIDI_Out_Cut() {
+  if (MIDI_Out_Handle == -1) return;
+  midiOutShortMsg(MIDI_Out_Handle, Pack(Control_Status(), Controller_All_Notes_Off, 0));
+  int asked = 1;
+  while (midiOutClose(MIDI_Out_Handle) == Midi_Still_Playing && asked < Most_Asked) ++asked;
+  MIDI_Out_Handle = -1;
 }
 
 int MIDI_Put(std::string_view message) {

@@ -23,6 +23,10 @@ void MIDI_Out_Close();
 // Repeats MIDI_Out_Close until the output is closed, or MIDI switched off.
 void MIDI_Out_Close_Wholly();
 
+// The same for an end that lets no events run and shows nothing: waits a second at most, and leaves a failure
+// untold.
+void MIDI_Out_Cut();
+
 // Sends a short message of 1 to 3 bytes, absent ones counting 0; opens the output before. Returns the
 // service's code, after telling a failure. Does not look at MIDI_Enabled.
 int MIDI_Put(std::string_view message);

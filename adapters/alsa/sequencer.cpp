@@ -18,8 +18,12 @@ namespace {
 constexpr const char* Client_Name = "MELVOR";
 constexpr unsigned Writable = SND_SEQ_PORT_CAP_WRITE | SND_SEQ_PORT_CAP_SUBS_WRITE;
 constexpr unsigned Readable = SND_SEQ_PORT_CAP_READ | SND_SEQ_PORT_CAP_SUBS_READ;
+// Not a synthesizer on a card, which knows no bytes.
+constexpr unsigned Socket = SND_SEQ_PORT_TYPE_HARDWARE | SND_SEQ_PORT_TYPE_PORT;
 constexpr std::size_t Input_Cells = 2000;  // of 28 bytes: the most there are
 constexpr std::size_t Decoded_Size = 16;   // of any message that is not System Exclusive
+constexpr unsigned char First_Status = 0x80;
+constexpr unsigned char First_System_Status = 0xF0;
 
 void Say_Nothing(const char*, int, const char*, int, const char*, ...) {}
 
@@ -55,7 +59,7 @@ std::vector<Listed_Port> List_Ports(snd_seq_t* sequencer, Midi::Direction direct
     while (snd_seq_query_next_port(sequencer, port) >= 0) {
       const unsigned capabilities = snd_seq_port_info_get_capability(port);
       if ((capabilities & wanted) != wanted || (capabilities & SND_SEQ_PORT_CAP_NO_EXPORT) != 0) continue;
-      const bool hardware = (snd_seq_port_info_get_type(port) & SND_SEQ_PORT_TYPE_HARDWARE) != 0;
+      const bool hardware = (snd_seq_port_info_get_type(port) & Socket) == Socket;
       const snd_seq_addr_t address = *snd_seq_port_info_get_addr(port);
       const std::string name =
           Port_Name(snd_seq_client_info_get_name(client), snd_seq_port_info_get_name(port));
@@ -94,13 +98,18 @@ Sequencer::~Sequencer() {
   ended_ = true;
   eventfd_write(wake_, 1);
   if (thread_.joinable()) thread_.join();
-  if (decoder_ != nullptr) snd_midi_event_free(decoder_);
+  for (snd_midi_event_t* coder : {decoder_, encoder_}) {
+    if (coder != nullptr) snd_midi_event_free(coder);
+  }
   if (wake_ >= 0) close(wake_);
   snd_seq_close(sequencer_);
 }
 
 bool Sequencer::Listen_To_Announcements() {
-  if (wake_ < 0 || snd_midi_event_new(Decoded_Size, &decoder_) < 0) return false;
+  if (wake_ < 0) return false;
+  for (snd_midi_event_t** coder : {&decoder_, &encoder_}) {
+    if (snd_midi_event_new(Decoded_Size, coder) < 0) return false;
+  }
   snd_midi_event_no_status(decoder_, 1);
   announcements_ = Make_Port("announcements", SND_SEQ_PORT_CAP_WRITE | SND_SEQ_PORT_CAP_NO_EXPORT);
   return announcements_ >= 0 && snd_seq_connect_from(sequencer_, announcements_, SND_SEQ_CLIENT_SYSTEM,
@@ -131,6 +140,7 @@ bool Sequencer::Is_There(const Midi::Port& port, Midi::Direction direction, snd_
 
 bool Sequencer::Open_Output(const Midi::Port& port, Destination& destination) {
   if (!Is_There(port, Midi::Direction::Output, destination.address)) return false;
+  destination.wire = port.wire;
   destination.own_port = Make_Port("out", Readable);
   if (destination.own_port < 0) return false;
   {
@@ -180,15 +190,29 @@ void Sequencer::Delete_Later(int own_port) {
   eventfd_write(wake_, 1);
 }
 
+// Other programs look at an event's type: a note that came as raw bytes they would not hear. False: the bytes
+// are no whole channel message.
+bool Sequencer::Encode(std::string_view bytes, snd_seq_event_t& event) {
+  const auto status = static_cast<unsigned char>(bytes[0]);
+  if (status < First_Status || status >= First_System_Status) return false;
+  snd_midi_event_reset_encode(encoder_);
+  const auto size = static_cast<long>(bytes.size());
+  const auto* data = reinterpret_cast<const unsigned char*>(bytes.data());
+  return snd_midi_event_encode(encoder_, data, size, &event) == size && event.type != SND_SEQ_EVENT_NONE;
+}
+
 Midi::Write_Result Sequencer::Write(const Destination& destination, std::string_view bytes) {
   if (!Has_Room(file_, destination.address.client, bytes.size())) return Midi::Write_Result::Busy;
+  const std::lock_guard lock(output_);
   snd_seq_event_t event;
   snd_seq_ev_clear(&event);
+  // On a wire the bytes stay as they are: the kernel may leave out a status byte that is that of the
+  // message before.
+  if (destination.wire || !Encode(bytes, event))
+    snd_seq_ev_set_sysex(&event, static_cast<unsigned>(bytes.size()), const_cast<char*>(bytes.data()));
   snd_seq_ev_set_source(&event, static_cast<unsigned char>(destination.own_port));
   snd_seq_ev_set_dest(&event, destination.address.client, destination.address.port);
   snd_seq_ev_set_direct(&event);
-  snd_seq_ev_set_sysex(&event, static_cast<unsigned>(bytes.size()), const_cast<char*>(bytes.data()));
-  const std::lock_guard lock(output_);
   const int result = snd_seq_event_output_direct(sequencer_, &event);
   if (result >= 0) return Midi::Write_Result::Taken;
   const bool passing = result == -EAGAIN || result == -EINTR || result == -ENOMEM;

@@ -18,6 +18,7 @@ namespace Alsa {
 // A port of another client that messages go to.
 struct Destination {
   snd_seq_addr_t address{};
+  bool wire = false;
   int own_port = -1;
   std::atomic<bool> gone = false;
 };
@@ -52,6 +53,7 @@ struct Sequencer {
   explicit Sequencer(snd_seq_t* sequencer);
   bool Listen_To_Announcements();
   int Make_Port(const char* name, unsigned capabilities);
+  bool Encode(std::string_view bytes, snd_seq_event_t& event);
   bool Is_There(const Midi::Port& port, Midi::Direction direction, snd_seq_addr_t& address) const;
   void Delete_Later(int own_port);
   void Run();
@@ -68,8 +70,9 @@ struct Sequencer {
   int wake_ = -1;  // an event counter: something to delete, or the end
   int announcements_ = -1;
   std::atomic<bool> ended_ = false;
-  std::mutex output_;  // the library's output is not safe for threads
-  std::mutex ports_;   // guards what follows
+  std::mutex output_;  // guards what follows, and the library's output
+  snd_midi_event_t* encoder_ = nullptr;
+  std::mutex ports_;  // guards what follows
   std::vector<Destination*> destinations_;
   std::vector<Origin*> origins_;
   std::vector<int> to_delete_;

@@ -68,17 +68,16 @@ Client::~Client() {
 }
 
 void Client::Take_Down() {
-  jack_client_t* client = nullptr;
   {
-    const std::lock_guard lock(taken_down_);
-    client = std::exchange(client_, nullptr);
+    const std::lock_guard lock(taking_down_);
+    if (std::exchange(taken_down_, true)) return;
   }
-  if (client != nullptr) jack_client_close(client);
+  jack_client_close(client_);
 }
 
 jack_nframes_t Client::Now() {
-  const std::lock_guard lock(taken_down_);
-  return client_ == nullptr ? 0 : jack_frame_time(client_);
+  const std::lock_guard lock(taking_down_);
+  return taken_down_ ? 0 : jack_frame_time(client_);
 }
 
 bool Client::Activate() {
@@ -88,7 +87,8 @@ bool Client::Activate() {
   const auto shut_down = [](void* self) { static_cast<Client*>(self)->dead_ = true; };
   const auto registered = [](jack_port_id_t, int is_new, void* self) {
     auto* client = static_cast<Client*>(self);
-    if (is_new != 0) return;
+    // One look finds all that have gone: a program that ends takes many ports with it.
+    if (is_new != 0 || client->look_posted_.exchange(true)) return;
     Post_Task(client->worker_, [weak = client->weak_from_this()] {
       if (const std::shared_ptr<Client> alive = weak.lock()) alive->Find_Gone();
     });
@@ -182,6 +182,7 @@ void Client::Wait_Drained(const Output_Slot& slot) const {
 }
 
 void Client::Find_Gone() {
+  look_posted_ = false;
   Wait_Periods(Connection_Periods);  // the server tells before the port has really gone
   for (Output_Slot& slot : outputs_) {
     if (slot.state == Slot_State::Live && !Has_Port(slot.other)) slot.gone = true;

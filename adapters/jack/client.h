@@ -77,11 +77,13 @@ struct Client : std::enable_shared_from_this<Client> {
   void Read_Input(std::uint32_t slot, jack_nframes_t count);
   void Run_Input();
 
-  std::mutex taken_down_;  // guards client_ where it may go meanwhile
-  jack_client_t* client_;
+  jack_client_t* const client_;  // valid until it is taken down, for the process thread until that has ended
+  std::mutex taking_down_;       // guards what follows
+  bool taken_down_ = false;
   std::weak_ptr<Worker::Queue> worker_;
   std::string own_prefix_;  // our name and ":"
   std::atomic<bool> dead_ = false;
+  std::atomic<bool> look_posted_ = false;  // for ports that have gone
   std::atomic<unsigned> periods_ = 0;
   std::array<Output_Slot, Slots> outputs_;
   std::array<Input_Slot, Slots> inputs_;

@@ -61,8 +61,9 @@ struct Backend {
   virtual ~Backend() = default;
   // Looks what there is, and connects to the system again if it had gone.
   virtual void Refresh() = 0;
+  // Those that are there now.
   virtual std::vector<Port> Ports(Direction direction) = 0;
-  // nullptr: the port is no longer there.
+  // nullptr: the port is no longer there, or, where Ports still has it, takes nobody more.
   virtual std::unique_ptr<Sink> Open_Output(const Port& port) = 0;
   virtual std::unique_ptr<Source> Open_Input(const Port& port, Byte_Receiver receiver) = 0;
 };

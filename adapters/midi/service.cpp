@@ -1,5 +1,6 @@
 #include "adapters/midi/service.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -17,6 +18,13 @@ template <class Open>
 auto Find_End(Open& open, std::int32_t handle) -> decltype(open.begin()->second.end.get()) {
   const auto found = open.find(handle);
   return found == open.end() ? nullptr : found->second.end.get();
+}
+
+bool Is_There(Backend& backend, const Port& port, Direction direction) {
+  const std::vector<Port> ports = backend.Ports(direction);
+  return std::any_of(ports.begin(), ports.end(), [&port](const Port& other) {
+    return other.address == port.address && other.name == port.name;
+  });
 }
 
 }  // namespace
@@ -45,8 +53,9 @@ std::vector<Service::Device> Service::List(Direction direction) {
 }
 
 template <class End, class Open>
-int Service::Open_End(Open_Devices<End>& open, const std::vector<Device>& devices, int device,
-                      std::int32_t& handle, const Open& open_end) {
+int Service::Open_End(Open_Devices<End>& open, Direction direction, int device, std::int32_t& handle,
+                      const Open& open_end) {
+  const std::vector<Device>& devices = direction == Direction::Output ? outputs_ : inputs_;
   if (device < 0 || device >= static_cast<int>(devices.size())) return Midi_Bad_Device;
   const Device& chosen = devices[static_cast<std::size_t>(device)];
   for (const auto& [other, row] : open) {
@@ -54,7 +63,8 @@ int Service::Open_End(Open_Devices<End>& open, const std::vector<Device>& device
   }
   try {
     Open_Device<End> opened{chosen, open_end(*chosen.backend, chosen.port)};
-    if (opened.end == nullptr) return Midi_No_Device;
+    if (opened.end == nullptr)
+      return Is_There(*chosen.backend, chosen.port, direction) ? Midi_Allocated : Midi_No_Device;
     open.emplace(last_handle_ + 1, std::move(opened));
   } catch (const std::exception&) {  // no memory, or no thread
     return Midi_No_Memory;
@@ -87,7 +97,7 @@ int Service::Out_Open(std::int32_t& handle, int device) {
     std::unique_ptr<Sink> sink = backend.Open_Output(port);
     return sink == nullptr ? nullptr : std::make_unique<Sender>(std::move(sink), port.wire);
   };
-  return Open_End(open_outputs_, outputs_, device, handle, open);
+  return Open_End(open_outputs_, Direction::Output, device, handle, open);
 }
 
 int Service::Out_Short(std::int32_t handle, std::uint32_t message) {
@@ -134,7 +144,7 @@ int Service::In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) {
     auto input = std::make_unique<Input>(std::move(receiver));
     return input->Open(backend, port) ? std::move(input) : nullptr;
   };
-  return Open_End(open_inputs_, inputs_, device, handle, open);
+  return Open_End(open_inputs_, Direction::Input, device, handle, open);
 }
 
 int Service::In_Prepare(std::int32_t handle, MIDI_Header& header) {

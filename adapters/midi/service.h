@@ -64,7 +64,7 @@ struct Service final : Midi_Service {
 
   std::vector<Device> List(Direction direction);
   template <class End, class Open>
-  int Open_End(Open_Devices<End>& open, const std::vector<Device>& devices, int device, std::int32_t& handle,
+  int Open_End(Open_Devices<End>& open, Direction direction, int device, std::int32_t& handle,
                const Open& open_end);
 
   std::vector<Backend*> backends_;

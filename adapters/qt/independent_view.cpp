@@ -1,5 +1,7 @@
 #include "adapters/qt/independent_view.h"
 
+#include <QGuiApplication>
+
 #include "adapters/qt/frame_view.h"
 #include "adapters/qt/shell.h"
 
@@ -19,7 +21,9 @@ Independent_View::Independent_View(Shell& the_shell, Form& the_form)
 Independent_View::~Independent_View() { body_.deleteLater(); }
 
 void Independent_View::Activate() {
-  if (!body_.isActiveWindow()) body_.activateWindow();
+  // Beside another program that the user works with it waits.
+  if (QGuiApplication::applicationState() == Qt::ApplicationActive && !body_.isActiveWindow())
+    body_.activateWindow();
 }
 
 void Independent_View::Bring_To_Front() { body_.raise(); }

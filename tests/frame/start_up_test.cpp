@@ -144,6 +144,22 @@ TEST_F(Frame, A_Failed_Note_Leaves_None_Of_The_Sequencer_Sounding) {
   EXPECT_EQ(desktop.boxes.size(), 1U);
 }
 
+TEST_F(Frame, Where_The_Display_Goes_Notes_End_And_The_Settings_Are_Kept) {
+  ASSERT_TRUE(Start());
+  Play();
+  Tone_Receive();
+  service.Take_Hex();
+  service.Fail_Next("Out_Close", Midi_Still_Playing, 3);
+  End_Without_Desktop();
+  EXPECT_EQ(service.Take_Hex(), std::vector<std::string>{"B0 7B 00"});
+  EXPECT_FALSE(service.Out_Is_Open());
+  EXPECT_NE(root.Get("MELVOR.INI").find("Autosend=1"), std::string::npos);
+  End_Without_Questions();
+  root.Put("MELVOR.INI", Configured);
+  End_Without_Desktop();
+  EXPECT_EQ(root.Get("MELVOR.INI"), Configured) << "after the end";
+}
+
 TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
   ASSERT_TRUE(Start());
   service.Fail_Next("Out_Open", 68, 99);
@@ -153,6 +169,7 @@ TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_Durin
   desktop.quit = false;
   desktop.on_other_box = [] {
     End_Without_Questions();
+    End_Without_Desktop();
     return Answer::Ok;
   };
   const std::string settings = "[MIDI]\nOutput=Gone\nInput=Gone\n[Recent Files]\nTone1=C:\\A.SYX\n";

@@ -25,9 +25,14 @@ struct Software_Rig {
     snd_seq_set_client_pool_input(listener_, static_cast<std::size_t>(cells));
     snd_seq_create_simple_port(listener_, "in", SND_SEQ_PORT_CAP_WRITE | SND_SEQ_PORT_CAP_SUBS_WRITE,
                                SND_SEQ_PORT_TYPE_MIDI_GENERIC);
+    snd_midi_event_new(0, &decoder_);
+    snd_midi_event_no_status(decoder_, 1);
     service.Refresh();
   }
-  ~Software_Rig() { snd_seq_close(listener_); }
+  ~Software_Rig() {
+    snd_midi_event_free(decoder_);
+    snd_seq_close(listener_);
+  }
 
   Byte_String Received(std::size_t count) {
     Byte_String bytes;
@@ -41,14 +46,18 @@ struct Software_Rig {
     snd_seq_event_t* event = nullptr;
     int result = 0;
     while ((result = snd_seq_event_input(listener_, &event)) >= 0) {
-      if (event->type != SND_SEQ_EVENT_SYSEX) continue;
-      bytes.append(static_cast<const char*>(event->data.ext.ptr), event->data.ext.len);
+      unsigned char data[4096];
+      const long size = snd_midi_event_decode(decoder_, data, sizeof data, event);
+      // A program that plays what it gets takes notes and the like by their own types alone.
+      if (size <= 0 || (event->type == SND_SEQ_EVENT_SYSEX && data[0] >= 0x80 && data[0] < 0xF0)) continue;
+      bytes.append(reinterpret_cast<const char*>(data), static_cast<std::size_t>(size));
     }
     EXPECT_EQ(result, -EAGAIN) << "events were lost";
     return bytes;
   }
 
   snd_seq_t* listener_ = nullptr;
+  snd_midi_event_t* decoder_ = nullptr;
 };
 
 // The instrument's end of the cable of the interface "Test Synth", as raw MIDI.

@@ -37,23 +37,21 @@ struct Fake_Sink final : Midi::Sink {
 };
 
 struct Fake_Backend final : Midi::Backend {
-  std::vector<Midi::Port> outputs, inputs;  // as the system has them; listed at the next Refresh
+  std::vector<Midi::Port> outputs, inputs;  // as the system has them
+  bool taken = false;                       // its outputs are another program's
   std::map<std::string, Fake_Port> ports;   // by address
   Midi::Byte_Receiver receiver;             // of the input that was opened
 
-  void Refresh() override { listed_ = {outputs, inputs}; }
+  void Refresh() override {}
   std::vector<Midi::Port> Ports(Midi::Direction direction) override {
-    return direction == Midi::Direction::Output ? listed_.first : listed_.second;
+    return direction == Midi::Direction::Output ? outputs : inputs;
   }
   std::unique_ptr<Midi::Sink> Open_Output(const Midi::Port& port) override {
-    if (std::ranges::count(outputs, port.address, &Midi::Port::address) == 0) return nullptr;
+    if (taken || std::ranges::count(outputs, port.address, &Midi::Port::address) == 0) return nullptr;
     return std::make_unique<Fake_Sink>(ports[port.address]);
   }
   std::unique_ptr<Midi::Source> Open_Input(const Midi::Port&, Midi::Byte_Receiver to) override {
     receiver = std::move(to);
     return std::make_unique<Midi::Source>();
   }
-
- private:
-  std::pair<std::vector<Midi::Port>, std::vector<Midi::Port>> listed_;
 };

@@ -45,6 +45,8 @@ TEST_F(Service_Test, Devices_Run_Through_All_Backends_And_A_Refresh_Leaves_Open_
   EXPECT_EQ(service.Out_Open(other, 0), Midi_No_Device) << "gone since the listing";
   service.Refresh();
   EXPECT_EQ(Output_Names(), (Texts{"New", "Synth", "Other"}));
+  first.taken = true;
+  EXPECT_EQ(service.Out_Open(other, 0), Midi_Allocated) << "there, but another program's";
   EXPECT_EQ(service.Out_Short(handle, 0x403C90), Midi_Ok);
   EXPECT_EQ(service.Out_Open(other, 2), Midi_Allocated) << "the same port under another number";
   EXPECT_EQ(service.Out_Open(other, 3), Midi_Bad_Device);

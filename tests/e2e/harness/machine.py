@@ -91,10 +91,10 @@ class Machine:
         width, height = self.screen
         number = First_display + os.getpid() % Displays
         # Without -noreset the server starts anew when its last client leaves, and refuses whoever comes just then.
-        server = self.start("xvfb", ["Xvfb", f":{number}", "-screen", "0", f"{width}x{height}x24", "-noreset",
-                                     "-nolisten", "tcp", *self.display_options])
+        self.display = self.start("xvfb", ["Xvfb", f":{number}", "-screen", "0", f"{width}x{height}x24", "-noreset",
+                                           "-nolisten", "tcp", *self.display_options])
         self.environment["DISPLAY"] = f":{number}"
-        wait_until(lambda: self.run("xprop", "-root") is not None or server.poll() is not None, "the display")
+        wait_until(lambda: self.run("xprop", "-root") is not None or self.display.poll() is not None, "the display")
         self.start("openbox", ["openbox", "--sm-disable"])
         managed = ("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
         wait_until(lambda: "window id" in (self.run(*managed) or ""),

@@ -102,9 +102,14 @@ class Session:
         self.process.send_signal(signal.SIGTERM)
         return self.wait_for_end()
 
-    def end_at_once(self):
-        """The same in the middle of whatever it does: no box, the settings written, no note left sounding."""
+    def lose_display(self):
+        """Takes the display away, at which the toolkit ends the program; returns its exit code."""
+        self.machine.display.terminate()
+        return self.wait_for_end()
+
+    def end_at_once(self, lose_display=False):
+        """Either, in the middle of whatever it does: no box, the settings written, no note left sounding."""
         assert "Synthesizer" not in self.settings()["MIDI"]
-        assert self.interrupt() == 0
+        assert self.lose_display() == 1 if lose_display else self.interrupt() == 0
         assert self.settings()["MIDI"]["Synthesizer"] == "JX-8P"
         wait_until(lambda: self.wire.all()[-1][1] == All_notes_off, "the last word")
