@@ -16,8 +16,8 @@ extern std::string Dir_Tones;
 extern std::string Dir_Sequences;
 extern std::string Dir_Oscillators;
 
-// Places the frame, then reads everything but the keys that the MIDI start has read. Noise counts as the
-// default.
+// Places the frame, then reads everything but the keys that the MIDI start has read. A number outside its
+// range counts as the default; a switch is on at "1" alone, Soundcheck at anything but "0".
 void Settings_Load();
 
 // Writes everything, in one replacement of the file. A failure is told on the standard error output alone.

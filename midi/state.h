@@ -1,5 +1,6 @@
 // What the whole program knows about MIDI: switches, channel, instrument, the scratch message.
-// Written by the MIDI start, the setup window and the settings; MIDI_Enabled also by any output error.
+// Written by the MIDI start, the setup window and the settings; MIDI_Enabled also by any output error,
+// Autosend by the file dialog and, while the program waits for a tone, by Receive.
 #pragma once
 
 #include <cstdint>

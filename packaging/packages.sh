@@ -9,9 +9,8 @@ Test_Packages=(
   libbenchmark-dev libgtest-dev
   jackd2                                                              # a server without hardware
   busybox-static cpio libasound2-data qemu-system-x86 xz-utils        # a machine with an ALSA sequencer
-  at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3 python3-gi   # the program seen from outside
+  at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3 python3-gi        # the program seen from outside
   imagemagick openbox x11-utils xdotool xvfb                          # its display, hand and camera
-  appstream desktop-file-utils                                        # what judges its menu entry
 )
 Package_Packages=(appstream desktop-file-utils dpkg-dev file lintian man-db)
 Fuzz_Packages=(clang libclang-rt-14-dev)

@@ -61,16 +61,6 @@ Parameter_List Built_In::Values(const List_Id& id) const {
   return receiver_.memory.Values(id);
 }
 
-int Built_In::Sounding_Notes() const {
-  const std::lock_guard lock(mutex_);
-  return receiver_.Sounding_Notes();
-}
-
-int Built_In::Last_Unit() const {
-  const std::lock_guard lock(mutex_);
-  return receiver_.memory.Last_Unit();
-}
-
 // The unit number is that of the last message, 0 before.
 std::string Built_In::Tone_Dump() const {
   const std::lock_guard lock(mutex_);

@@ -47,8 +47,6 @@ struct Receiver final : private Byte_Handler {
 struct Built_In final : Midi::Backend {
   // --- for whoever wants to look inside
   Parameter_List Values(const List_Id& id) const;
-  int Sounding_Notes() const;
-  int Last_Unit() const;  // as Parameter_Memory::Last_Unit
 
   // --- the backend
   void Refresh() override {}

@@ -10,7 +10,6 @@ echo VM-STARTED
 for module in snd-seq snd-seq-dummy snd-seq-midi dummy_hcd usb_f_midi snd-usb-audio; do
   modprobe $module || echo "VM-NO-DEVICES $module"
 done
-modprobe snd-virmidi midi_devs=2 || echo "VM-NO-DEVICES snd-virmidi"
 
 # A USB device that this machine is both ends of: the gadget's card plays the instrument, and the card that the USB
 # driver makes of it is the interface that a program sees. Writing to its UDC file plugs it in and out.

@@ -76,6 +76,8 @@ TEST_F(Line_Test, Of_A_Port_That_Goes_In_Mid_Stream_Nothing_Is_Under_Way) {
   EXPECT_EQ(line.Bytes_Under_Way(now_us), 0U) << "a close need not wait";
   EXPECT_EQ(line.Pump(now_us + 100'000), Midi::Never_us);
   EXPECT_EQ(port.Bytes().size(), 200U);
+  const auto [taken, delivered, refused] = line.Counts();
+  EXPECT_EQ(std::tuple(taken, delivered, refused), std::tuple(5U, 2U, 1U));
 }
 
 }  // namespace
