@@ -42,7 +42,7 @@ struct Desktop {
   virtual ~Desktop() = default;
 
   // Shows a box and returns what the user answered. The closing of the box by Escape or its close box is
-  // Cancel where there is such a button, No in a Yes/No box, else Ok. No timer of the program ticks meanwhile
+  // Cancel where there is such a button, else Ok; a Yes/No box cannot be closed so. No timer of the program ticks meanwhile
   // (the caller has suspended them) and no other window gets an event.
   virtual Answer Message_Box(std::string_view text, int style, std::string_view title) = 0;
 

@@ -48,7 +48,9 @@ Child_View::Child_View(Shell& the_shell, Form& the_form)
   shell.frame->Add_Child(*window_);
   window_->on_close = [this] { Report_Closing(); };
   window_->on_placed = [this] {
-    const bool by_user = !placing_ && !shell.frame->Scrolling() && window_->isVisible();
+    if (!window_->isVisible() || shell.frame->Scrolling()) return;
+    shell.frame->Fit();
+    const bool by_user = !placing_;
     if (by_user && form.border != Border::None) Report_Place(Inside());
   };
   window_->on_press = [&shell = shell, form = &form] {
@@ -79,6 +81,8 @@ void Child_View::Show_Window() {
     window_->setVisible(form.visible());
     // Its title bar has its final height only now.
     if (Inside() != Wanted_Place()) Show_Place();
+    shell.frame->Fit();
+    if (form.visible()) shell.frame->Reveal(*window_);
   }
   shell.frame->Keep_Order();
 }

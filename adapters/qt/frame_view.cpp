@@ -1,9 +1,13 @@
 #include "adapters/qt/frame_view.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMdiSubWindow>
 #include <QPainter>
+#include <QScreen>
+#include <QScrollBar>
 #include <QWindow>
+#include <algorithm>
 
 #include "adapters/qt/control_view.h"
 #include "adapters/qt/look.h"
@@ -38,6 +42,20 @@ void Child_Area::scrollContentsBy(int dx, int dy) {
   scrolling_ = false;
 }
 
+void Child_Area::Fit() {
+  QResizeEvent event(size(), size());
+  QMdiArea::resizeEvent(&event);
+}
+
+void Child_Area::Reveal(const QWidget& child) {
+  const auto scroll = [](QScrollBar& bar, int start, int end, int room) {
+    bar.setValue(bar.value() + (end > room ? std::min(end - room, start) : std::min(start, 0)));
+  };
+  const QRect place = child.geometry();
+  scroll(*horizontalScrollBar(), place.left(), place.right(), viewport()->width());
+  scroll(*verticalScrollBar(), place.top(), place.bottom(), viewport()->height());
+}
+
 void Frame_Window::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (on_close) on_close();
@@ -57,6 +75,24 @@ void Frame_Window::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange && on_placed) on_placed();
 }
+
+namespace {
+
+constexpr QSize Least_Title(80, 16);
+
+// The place, or the first screen's corner if too little of the title bar could be taken hold of: the screen
+// that it was on may have gone.
+QRect On_A_Screen(const QRect& outside) {
+  const QRect title(outside.topLeft(), QSize(outside.width(), Least_Title.height()));
+  const auto shows = [&title](const QScreen* screen) {
+    const QSize seen = screen->availableGeometry().intersected(title).size();
+    return seen.expandedTo(Least_Title) == seen;
+  };
+  if (std::ranges::any_of(QGuiApplication::screens(), shows)) return outside;
+  return {QGuiApplication::primaryScreen()->availableGeometry().topLeft(), outside.size()};
+}
+
+}  // namespace
 
 Frame_View::Frame_View(Shell& the_shell, Form& the_form)
     : Form_View(the_shell, the_form), window_(new Frame_Window), area_(new Child_Area(the_shell, *window_)) {
@@ -98,8 +134,9 @@ QMargins Frame_View::Decorations() const {
   return window_->windowHandle() == nullptr ? QMargins() : window_->windowHandle()->frameMargins();
 }
 
-void Frame_View::Place(const QRect& outside) {
-  placed_ = outside;
+void Frame_View::Place(const QRect& wanted) {
+  const QRect outside = On_A_Screen(wanted);
+  placed_ = wanted;
   asked_blindly_ = Decorations().isNull();
   window_->move(outside.topLeft());
   window_->resize(outside.size().shrunkBy(Decorations()));

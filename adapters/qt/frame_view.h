@@ -19,6 +19,10 @@ struct Child_Area final : QMdiArea {
   QPoint Scrolled() const { return scrolled_; }
   // Whether children move because the area is scrolled.
   bool Scrolling() const { return scrolling_; }
+  // Gives the area the scroll bars that its children need now.
+  void Fit();
+  // Scrolls so far that the child is seen, its top left corner in any case.
+  void Reveal(const QWidget& child);
 
   void paintEvent(QPaintEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
@@ -53,6 +57,9 @@ struct Frame_View final : Form_View {
   void Add_Child(QMdiSubWindow& child);
   void Remove_Child(QMdiSubWindow& child);
   void Activate_Child(QMdiSubWindow& child);
+  // A child has moved, come up or gone.
+  void Fit() { area_->Fit(); }
+  void Reveal(const QWidget& child) { area_->Reveal(child); }
   // The frame's own controls at the very bottom, then the bottom form, then the rest; after a child came up
   // or was activated.
   void Keep_Order();

@@ -1,5 +1,7 @@
 #include "adapters/qt/message_box.h"
 
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
@@ -12,17 +14,19 @@ namespace {
 struct Buttons_Row {
   int style;
   QMessageBox::StandardButtons buttons;
-  QMessageBox::StandardButton first;   // Enter answers this
-  QMessageBox::StandardButton escape;  // Escape and the close box answer this
+  QMessageBox::StandardButton first;  // Enter answers this
+  QMessageBox::StandardButton
+      escape;       // Escape and the close box answer this, where they may, and the program's end
+  bool may_escape;  // No is an answer that costs: it must be said
 };
 
 const std::array Buttons_Rows{
-    Buttons_Row{Box_Ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok},
+    Buttons_Row{Box_Ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, true},
     Buttons_Row{Box_Yes_No_Cancel, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
-                QMessageBox::Cancel},
-    Buttons_Row{Box_Yes_No, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No},
+                QMessageBox::Cancel, true},
+    Buttons_Row{Box_Yes_No, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No, false},
     Buttons_Row{Box_Retry_Cancel, QMessageBox::Retry | QMessageBox::Cancel, QMessageBox::Retry,
-                QMessageBox::Cancel},
+                QMessageBox::Cancel, true},
 };
 
 const Buttons_Row& Row_Of(int style) {
@@ -60,13 +64,27 @@ Answer Answer_Of(int button) {
   }
 }
 
+struct Box final : QMessageBox {
+  Box(QWidget* over, bool escapes) : QMessageBox(over), may_escape(escapes) {}
+
+  void keyPressEvent(QKeyEvent* event) override {
+    if (may_escape || !event->matches(QKeySequence::Cancel)) QMessageBox::keyPressEvent(event);
+  }
+  void closeEvent(QCloseEvent* event) override {
+    if (may_escape) return QMessageBox::closeEvent(event);
+    event->ignore();
+  }
+
+  const bool may_escape;
+};
+
 }  // namespace
 
 Answer Escape_Answer(int style) { return Answer_Of(Row_Of(style).escape); }
 
 Answer Ask(std::string_view text, int style, std::string_view title, QWidget* over) {
   const Buttons_Row& row = Row_Of(style);
-  QMessageBox box(over);
+  Box box(over, row.may_escape);
   box.setWindowModality(Qt::ApplicationModal);
   box.setTextFormat(Qt::PlainText);
   box.setText(With_Line_Feeds(text));

@@ -1,6 +1,7 @@
 // The order of events, and message boxes.
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <algorithm>
 #include <thread>
 
@@ -67,16 +68,33 @@ TEST_F(Desk, While_A_Box_Is_Open_Nothing_Of_The_Program_Runs) {
   Await([&] { return std::ranges::count(log, "post") == 1 && std::ranges::count(log, "tick") > 0; });
 }
 
+TEST_F(Desk, A_Window_Beyond_The_Edges_Comes_Into_Sight) {
+  for (const int left_px : {900, -900}) {
+    panel.left = left_px * 15;
+    frame.left = 9000 * 15;
+    Show_Windows();
+    QWidget& body = Widget("Knob");
+    const QWidget& window = *body.window();
+    const QPoint seen = body.mapTo(&window, QPoint());
+    EXPECT_TRUE(window.rect().contains(seen)) << seen.x();
+    EXPECT_TRUE(QGuiApplication::primaryScreen()->geometry().contains(window.pos()));
+    Unload(panel);
+  }
+}
+
 TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
   Show_Windows();
   for (const auto& [style, pressed, answer, escaped] :
        {std::tuple{Box_Ok, QMessageBox::Ok, Answer::Ok, Answer::Ok},
         {Box_Yes_No_Cancel | Box_Question, QMessageBox::No, Answer::No, Answer::Cancel},
-        {Box_Yes_No | Box_Stop, QMessageBox::Yes, Answer::Yes, Answer::No},
+        {Box_Yes_No | Box_Stop, QMessageBox::No, Answer::No, Answer::Yes},
         {Box_Retry_Cancel, QMessageBox::Retry, Answer::Retry, Answer::Cancel}}) {
     At_Box([pressed = pressed](QWidget& box) { dynamic_cast<QMessageBox&>(box).button(pressed)->click(); });
     EXPECT_EQ(Message_Box("?", style), answer) << style;
-    At_Box([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    At_Box([](QWidget& box) {
+      QTest::keyClick(&box, Qt::Key_Escape);
+      if (box.isVisible() && !box.close()) QTest::keyClick(&box, Qt::Key_Return);  // Yes or No must be said
+    });
     EXPECT_EQ(Message_Box("?", style), escaped) << style;
   }
 }
