@@ -70,7 +70,9 @@ void Key_Input::Leave_To_Widget(Form& form, QWidget& receiver, QKeyEvent& event)
   const Control_View* view = shell_.Control_At(receiver);
   const bool its_own = view != nullptr && &view->control == form.focus;
   const bool leads_away = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
-  if (!its_own || leads_away || !view->manner.native_keys || !Usable(view->control)) return;
+  // A list would look for an entry that begins so.
+  const bool access_key = event.modifiers().testFlag(Qt::AltModifier) && !event.text().isEmpty();
+  if (!its_own || leads_away || access_key || !view->manner.native_keys || !Usable(view->control)) return;
   // Straight to the widget: what it does not want must not wander up to its containers.
   static_cast<QObject*>(&receiver)->event(&event);
 }

@@ -51,7 +51,9 @@ QWidget& Make_Bar(const Control& control, QWidget& parent) {
   const auto& bar = static_cast<const Scroll_Bar&>(control);
   const bool vertical = bar.orientation == Orientation::Vertical;
   if (vertical && bar.largest_on_top) return *new Turned_Bar(parent);
-  return *new QScrollBar(vertical ? Qt::Vertical : Qt::Horizontal, &parent);
+  auto* widget = new QScrollBar(vertical ? Qt::Vertical : Qt::Horizontal, &parent);
+  widget->setInvertedControls(vertical);  // the toolkit's keys and wheel are those of a text that is scrolled
+  return *widget;
 }
 
 }  // namespace

@@ -130,4 +130,28 @@ TEST_F(Desk, What_The_Program_Sets_Comes_Back_As_No_Users_Action) {
   EXPECT_EQ(log, (Texts{"bar 51", "bar 49"}));
 }
 
+TEST_F(Desk, Lists_And_Bars_Have_The_Keys_That_A_Hand_Expects) {
+  Combo_Box list(panel, "List");
+  list.Place(0, 0, 90, 20);
+  list.tab_index = 3;
+  Scroll_Bar bar(panel, "Bar");
+  bar.Place(0, 40, 150, 16);
+  bar.tab_index = 4;
+  bar.value = 50;
+  Show_Windows();
+  for (const char* item : {"C", "C+", "D"}) list.Add_Item(item);
+  list.Select(0);
+  Set_Focus(list);
+  Type(Qt::Key_D, Qt::AltModifier);
+  EXPECT_EQ(list.index(), 0) << "an access key looks for no entry";
+  Type(Qt::Key_D);
+  EXPECT_EQ(list.index(), 2);
+  Set_Focus(bar);
+  for (const auto& [key, value] :
+       {std::pair{Qt::Key_Right, 51}, {Qt::Key_Left, 50}, {Qt::Key_Up, 51}, {Qt::Key_Down, 50}}) {
+    Type(key);
+    EXPECT_EQ(bar.value(), value);
+  }
+}
+
 }  // namespace
