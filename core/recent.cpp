@@ -32,7 +32,8 @@ void Build_Menu(const Recent_List& list, const Recent_Menu& menu) {
   for (std::size_t place = 0; place < list.size(); ++place) {
     Menu_Item& item = *menu.items[place];
     item.visible = !list[place].empty();
-    if (!list[place].empty()) item.caption = "&" + std::to_string(place + 1) + " " + list[place];
+    if (!list[place].empty())
+      item.caption = "&" + std::to_string(place + 1) + " " + Literal_Caption(list[place]);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/text.h"
 #include "windows/input_dlg_window.h"
 
 std::string Input_Result;
@@ -11,13 +12,6 @@ namespace {
 constexpr int Prompt_Corner_px = 150;
 constexpr int Usual_Lines = 2;
 constexpr int Line_px = 14;
-
-// A folder in the prompt may have an "&" in its name, which marks no access key.
-std::string Without_Access_Keys(std::string_view text) {
-  std::string caption;
-  for (const char sign : text) caption.append(sign == '&' ? 2 : 1, sign);
-  return caption;
-}
 
 void Close_With(std::string result) {
   Input_Result = std::move(result);
@@ -48,7 +42,7 @@ std::string Input_Box(std::string_view prompt, std::string_view title, std::stri
   Input_Result.clear();
   Load(Input_Dlg);
   Input_Dlg.caption = std::string(title);
-  Input_Dlg.Input_Msg.caption = Without_Access_Keys(prompt);
+  Input_Dlg.Input_Msg.caption = Literal_Caption(prompt);
   Make_Room(prompt);
   Input_Dlg.Input_Textbox.Set_Text(default_text);
   Input_Dlg.Input_Textbox.Select_All();

@@ -168,6 +168,12 @@ std::string Plain_Caption(std::string_view caption) {
   return plain;
 }
 
+std::string Literal_Caption(std::string_view text) {
+  std::string caption;
+  for (const char sign : text) caption.append(sign == '&' ? 2 : 1, sign);
+  return caption;
+}
+
 bool Same_Text(std::string_view one, std::string_view other) {
   return std::equal(one.begin(), one.end(), other.begin(), other.end(),
                     [](char left, char right) { return Upper_Letter(left) == Upper_Letter(right); });

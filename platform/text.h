@@ -36,5 +36,7 @@ bool Has_Form(std::string_view text, std::string_view pattern);
 int Access_Key(std::string_view caption);
 // The caption without the marks.
 std::string Plain_Caption(std::string_view caption);
+// The caption that shows the text as it is: an "&" in it marks nothing.
+std::string Literal_Caption(std::string_view text);
 
 bool Same_Text(std::string_view one, std::string_view other);  // without regard to case
