@@ -14,7 +14,7 @@ namespace {
 struct Sound {
   Byte_Record<Tone_Size> tone;
   Byte_Record<Patch_Size> patch;
-  bool operator==(const Sound&) const = default;
+  int saved;
 };
 
 std::optional<Sound> pushed_out;  // of the editor, by the undo copies that a Save As brings back
@@ -48,15 +48,16 @@ void Undo_Restore_Quiet() {
 }
 
 void Undo_Take_Back() {
-  if (!pushed_out) pushed_out = Sound{Tone, Patch_Rec};
+  if (!pushed_out) pushed_out = Sound{Tone, Patch_Rec, Tone_Saved};
   Copy_Back();
 }
 
 void Undo_Keep_Pushed_Out() {
-  if (pushed_out && *pushed_out != Sound{Tone, Patch_Rec}) {
+  if (pushed_out && !(pushed_out->tone == Tone && pushed_out->patch == Patch_Rec)) {
     Tone_Undo = pushed_out->tone;
     Patch_Undo = pushed_out->patch;
     MELVOR.Menu_Edit_Undo.enabled = true;
+    if (pushed_out->saved == Flag_False) Tone_Saved = Flag_False;  // what a later try wrote was the undo copy
   }
   pushed_out.reset();
 }

@@ -9,8 +9,8 @@ void Undo_Restore();
 // records alone.
 void Undo_Restore_Quiet();
 void Undo_Take_Back();
-// At the end of a Save As: what these two pushed out of the editor becomes the undo copy, since a save that
-// failed or was given up has it in no file.
+// At the end of a Save As: what these two pushed out of the editor becomes the undo copy, and an unsaved tone
+// counts as unsaved still, since a save that failed or was given up has it in no file.
 void Undo_Keep_Pushed_Out();
 
 // Lets the panel and an open Patch window show both records.

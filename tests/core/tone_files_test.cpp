@@ -167,6 +167,19 @@ TEST_F(Tone_Files, An_Edited_Sound_Saved_Over_An_Old_Name_Is_Still_On_Disk) {
   EXPECT_EQ(root.Get("a.syx~2")[7 + 34], 40) << "the sound before";
   Undo_Restore();
   EXPECT_EQ(Tone[34], 99) << "and by Undo in the editor";
+
+  Tone_Param_Set(34, 98);
+  desktop.At_Wait([] {
+    Undo_Restore_Quiet();  // a try that did not write
+    Tone_Save();
+    Undo_Restore_Quiet();
+    Unload(File_Dlg);
+  });
+  desktop.Expect_Box(Answer::Cancel, "File exists: c:\\a.syx Overwrite?");
+  Tone_SaveAs();
+  EXPECT_EQ(Tone_Saved, Flag_False);
+  Undo_Restore();
+  EXPECT_EQ(Tone[34], 98);
 }
 
 }  // namespace
