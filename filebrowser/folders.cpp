@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <vector>
 
 #include "filebrowser/state.h"
 #include "panel/input_box.h"
@@ -104,6 +105,7 @@ void Delete_File(bool confirmed) {
   const auto remove = [&] {
     if (path != FD_Selected_Path) File_Keep_Copy(path);
     File_Delete(path);
+    FD_Selected_Path.clear();  // a file that now answers to the name was not asked about
   };
   if (confirmed && Error_Of(remove) != 0) {
     Message_Box(Upper(FD_Selected) + " could not be deleted.", Box_Exclamation);
@@ -172,14 +174,17 @@ void FD_Folders_Wire() {
   Wire_Button(File_Dlg.FD_Button_Newdir, New_Folder);
 }
 
+// A place that cannot be shown gives way to the program's own, and that to the drives.
 void FD_Show_Directory(const std::string& path) {
-  std::string start = path.empty() ? Current_Directory() : path;
-  if (Error_Of([&] { File_Dlg.FD_List_Files.Set_Path(start); }) != 0) {
-    start = Current_Directory();
-    File_Dlg.FD_List_Files.Set_Path(start);
-  }
-  File_Dlg.FD_List_Dirs.Set_Path(start);
-  File_Dlg.FD_List_Drives.Set_Drive(start);
+  File_List& files = File_Dlg.FD_List_Files;
+  std::vector<std::string> places{path, Current_Directory()};
+  for (const Drive& drive : Drives()) places.push_back({drive.letter, ':', '\\'});
+  const auto shows = [&files](const std::string& place) {
+    return !place.empty() && Error_Of([&] { files.Set_Path(place); }) == 0;
+  };
+  if (std::ranges::none_of(places, shows)) throw Runtime_Error(Error_Device_Unavailable);
+  File_Dlg.FD_List_Dirs.Set_Path(files.path());
+  File_Dlg.FD_List_Drives.Set_Drive(files.path());
 }
 
 std::string FD_Parent_Dir(std::string_view path) {

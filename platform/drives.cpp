@@ -156,7 +156,7 @@ std::vector<std::string> Mounted_Media() {
     const bool medium = std::any_of(Media_Places.begin(), Media_Places.end(), [&](std::string_view parent) {
       return Below(place, parent).has_value();
     });
-    if (medium && Is_Directory(place)) places.push_back(place);
+    if (medium) places.push_back(place);  // unseen: a network's medium may not answer
   }
   std::sort(places.begin(), places.end());
   places.erase(std::unique(places.begin(), places.end()), places.end());

@@ -13,8 +13,9 @@ constexpr std::size_t Indent = 2;
 constexpr std::string_view All_Files = "*.*";
 constexpr std::string_view Wildcards = "*?";
 
-// Whether a name on disk can be written as part of a path, and shown.
+// Whether a name on disk can be written as part of a path, and shown. Blanks around a path are trimmed.
 bool Can_Be_Named(std::string_view name) {
+  if (name.starts_with(' ') || name.ends_with(' ')) return false;
   constexpr std::string_view Forbidden = "\\*?\"<>|\x7F";
   while (!name.empty()) {
     const std::string_view character = First_Characters(name, 1);

@@ -128,7 +128,7 @@ void New_File::Take_Rights(const struct stat& old_file) {
   const mode_t rights = group_kept ? 0777 : 0707;
   if (fchmod(file.fd, old_file.st_mode & rights) == 0) return;
   // Some media keep no rights at all; then there are none to lose.
-  if (errno != EPERM && errno != ENOTSUP) Raise(path);
+  if (errno != EPERM && errno != ENOTSUP && errno != ENOSYS) Raise(path);
 }
 
 void New_File::Flush() {

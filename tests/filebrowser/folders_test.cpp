@@ -36,6 +36,14 @@ TEST_F(Folders_Test, Directories_Open_By_Key_Double_Click_And_Up) {
   Dir_Tones = "c:\\gone\\";
   Open("Open_SYX");
   EXPECT_EQ(Shown(), Current_Directory() + "|" + Current_Directory());
+  Unload(File_Dlg);
+  root.Make("Who?");
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(root.host / "Who?");
+  Dir_Tones = "\\gone";
+  Open("Open_SYX");
+  EXPECT_EQ(Shown(), "C:\\|C:\\");
+  std::filesystem::current_path(before);
 }
 
 TEST_F(Folders_Test, A_New_Folder_Gets_A_Name_That_Is_Free) {
