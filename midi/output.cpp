@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::uint32_t Data_1_Shift = 8;
 constexpr std::uint32_t Data_2_Shift = 16;
-constexpr int Most_Asked = 100;  // each answer takes 10 ms at most
+constexpr int Most_Asked = 150;  // each answer takes 10 ms at most; a full line needs 1.4 s
 
 // What the sequencer's fast path sent last, and what came of it.
 int Seq_Note = 0;

@@ -23,7 +23,7 @@ void MIDI_Out_Close();
 // Repeats MIDI_Out_Close until the output is closed, or MIDI switched off.
 void MIDI_Out_Close_Wholly();
 
-// The same for an end that lets no events run and shows nothing: waits a second at most, and leaves a failure
+// The same for an end that lets no events run and shows nothing: waits 1.5 s at most, and leaves a failure
 // untold.
 void MIDI_Out_Cut();
 

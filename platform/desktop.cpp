@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/dispatch.h"
 #include "platform/form.h"
 #include "platform/timer.h"
 
@@ -17,8 +18,12 @@ bool Desktop_Installed() { return installed != nullptr; }
 Desktop& The_Desktop() { return *installed; }
 
 Answer Message_Box(std::string_view text, int style, std::string_view title) {
+  const bool running = Open_Windows() > 0;
   const Timers_Suspended while_open;
-  return The_Desktop().Message_Box(text, style, title.empty() ? std::string_view(Application_Title) : title);
+  const Answer answer =
+      The_Desktop().Message_Box(text, style, title.empty() ? std::string_view(Application_Title) : title);
+  if (running && Open_Windows() == 0) throw Program_Ended();
+  return answer;
 }
 
 int Do_Events() {

@@ -42,8 +42,8 @@ struct Desktop {
   virtual ~Desktop() = default;
 
   // Shows a box and returns what the user answered. The closing of the box by Escape or its close box is
-  // Cancel where there is such a button, else Ok; a Yes/No box cannot be closed so. No timer of the program ticks meanwhile
-  // (the caller has suspended them) and no other window gets an event.
+  // Cancel where there is such a button, else Ok; a Yes/No box cannot be closed so. No timer of the program
+  // ticks meanwhile (the caller has suspended them) and no other window gets an event.
   virtual Answer Message_Box(std::string_view text, int style, std::string_view title) = 0;
 
   // Runs the events that are pending, and returns.
@@ -97,7 +97,8 @@ Desktop& The_Desktop();  // REQUIRES: one is installed
 // Title of the program, in boxes that have none of their own and in the desktop's list of programs.
 extern std::string Application_Title;  // starts as "MELVOR"
 
-// Shows a box; title empty: Application_Title. While it is open no timer ticks.
+// Shows a box; title empty: Application_Title. While it is open no timer ticks. Program_Ended (dispatch.h) if
+// the program was closed meanwhile, by a signal: whoever asked must not act on an answer that nobody gave.
 Answer Message_Box(std::string_view text, int style = Box_Ok, std::string_view title = {});
 
 // Lets timers, posts and repaints run once; the user's input stays queued. Returns how many windows are open.

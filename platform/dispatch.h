@@ -3,8 +3,8 @@
 
 #include <utility>
 
-// Thrown out of a wait in which the program has been closed: whatever waited has nothing left to go on with.
-// Ends its event without a word.
+// Thrown out of a wait, for a dialog or a box, in which the program has been closed: whatever waited has
+// nothing left to go on with. Ends its event without a word.
 struct Program_Ended {};
 
 // Tells the user about the exception that is being handled: a stop box with number and text.

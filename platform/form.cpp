@@ -7,8 +7,9 @@
 
 // The loaded forms and the active one.
 struct Form_Stack {
-  static inline std::vector<Form*> children;
-  static inline std::vector<Form*> others;
+  // Never destroyed: where the toolkit ends the process, forms that are loaded still leave them.
+  static inline std::vector<Form*>& children = *new std::vector<Form*>;
+  static inline std::vector<Form*>& others = *new std::vector<Form*>;
   static inline Form* active = nullptr;
 
   static std::vector<Form*>& List_Of(const Form& form) {

@@ -160,6 +160,17 @@ TEST_F(Frame, Where_The_Display_Goes_Notes_End_And_The_Settings_Are_Kept) {
   EXPECT_EQ(root.Get("MELVOR.INI"), Configured) << "after the end";
 }
 
+TEST_F(Frame, A_Signal_In_A_Box_Ends_The_Command_That_Asked) {
+  ASSERT_TRUE(Start());
+  Tone_Saved = Flag_False;
+  desktop.on_other_box = [] {
+    End_Without_Questions();
+    return Answer::No;
+  };
+  Choose(MELVOR.Menu_File_SYX_New);
+  EXPECT_EQ(service.Take_Hex().back(), "B0 7B 00") << "and no blank tone behind it";
+}
+
 TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
   ASSERT_TRUE(Start());
   service.Fail_Next("Out_Open", 68, 99);
