@@ -5,6 +5,7 @@
 
 #include "filebrowser/confirm.h"
 #include "filebrowser/soundcheck.h"
+#include "panel/push_buttons.h"
 #include "platform/desktop.h"
 #include "sequencer/model.h"
 #include "windows/file_dlg_window.h"
@@ -55,7 +56,7 @@ void Window_Key(Key_Event& key) {
   } else if (key.shift == Alt_Key && key.code != Alt_Itself) {
     const int code = key.code;
     key.code = 0;
-    Alt_Key_Down(code);
+    if (!key.repeated) Alt_Key_Down(code);
   }
 }
 
@@ -65,18 +66,6 @@ void File_Name_Key(Key_Event& key) {
   FD_Confirm();
 }
 
-// The space bar works a button or a light as the left mouse button does.
-void Wire_Space(Picture_Box& element) {
-  element.on_key_down = [&element](Key_Event& key) {
-    if (key.code != Key::Space || key.shift != 0) return;
-    key.code = 0;
-    const Mouse_Event press{Left_Button, 0, 0, 0};
-    if (element.on_mouse_down) element.on_mouse_down(press);
-    if (element.on_mouse_up) element.on_mouse_up(press);
-    if (element.on_click) element.on_click();
-  };
-}
-
 }  // namespace
 
 void FD_Keyboard_Wire() {
@@ -84,6 +73,6 @@ void FD_Keyboard_Wire() {
   File_Dlg.FD_FileName.on_key_down = File_Name_Key;
   for (Control* control : File_Dlg.controls) {
     const bool works = control->on_mouse_down || control->on_click;
-    if (control->kind == Kind::Picture_Box && works) Wire_Space(static_cast<Picture_Box&>(*control));
+    if (control->kind == Kind::Picture_Box && works) Work_By_Space(static_cast<Picture_Box&>(*control));
   }
 }

@@ -47,10 +47,10 @@ void Push_On_Mouse(Picture_Box& button) {
 
 void Work_By_Space(Picture_Box& element) {
   element.on_key_down = [&element](Key_Event& key) {
-    if (key.code != Key::Space || !Enabled_In_Form(element)) return;
+    if (key.code != Key::Space || key.shift != 0 || !Enabled_In_Form(element)) return;
     key.code = 0;
     if (key.repeated) return;
-    const Mouse_Event press{Left_Button, key.shift, 0, 0};
+    const Mouse_Event press{Left_Button, 0, 0, 0};
     if (element.on_mouse_down) element.on_mouse_down(press);
     if (element.on_mouse_up) element.on_mouse_up(press);
     if (element.on_click) element.on_click();

@@ -43,15 +43,14 @@ bool Run_Shortcut(const Form& form, const Key_Event& key) {
   if (shortcut.empty() || form.role == Form_Role::Independent || Frame_Form() == nullptr) return false;
   Menu_Item* item = Find_Shortcut(Frame_Form()->menus, shortcut);
   if (item == nullptr || !Can_Choose(*item)) return false;
-  Choose(*item);
+  if (!key.repeated) Choose(*item);  // a held Ctrl+R would push the sound out of the one level of undo
   return true;
 }
 
 // The keys by which a frame's children are changed and closed. A window that the program has locked is passed
 // over; a dialog that lies behind one that stays usable is reached by them alone.
 bool Run_Window_Key(Form& form, const Key_Event& key) {
-  const int shift = key.shift & ~Shift_Key;
-  if (shift != Ctrl_Key || form.role == Form_Role::Independent) return false;
+  if ((key.shift & ~Shift_Key) != Ctrl_Key || form.role == Form_Role::Independent) return false;
   if (key.code == Key::Tab || key.code == Key::F6) {
     Form* next = Next_Child(form, (key.shift & Shift_Key) != 0);
     if (next == nullptr) return true;
@@ -59,8 +58,10 @@ bool Run_Window_Key(Form& form, const Key_Event& key) {
     User_Activated(*next);
     return true;
   }
-  if (key.code != Key::F4 || form.role != Form_Role::Child || form.border == Border::None) return false;
-  User_Closes(form);
+  if (key.code != Key::F4 || key.shift != Ctrl_Key || form.role != Form_Role::Child ||
+      form.border == Border::None)
+    return false;
+  if (!key.repeated) User_Closes(form);
   return true;
 }
 

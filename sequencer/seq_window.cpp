@@ -108,18 +108,20 @@ void Matrix_Press(const Mouse_Event& event) {
 
 int Key_Up_Entry(const Picture_Box& key) { return key.tag() == "b" ? 1 : 0; }
 
-void Key_Press(int index, const Mouse_Event& event) {
-  Picture_Box& key = Sequencer.Seq_Keys[static_cast<std::size_t>(index)];
-  key.picture = Seq_Keys_Pics(Key_Up_Entry(key) + Key_Down_Offset);
-  MIDI_Out_Open();
-  if (MIDI_Enabled != 1) return;
-  if (event.button == Left_Button) Seq_SendNote(Seq_Base_Note + index, Strong_Key_Velocity);
-  if (event.button == Right_Button) Seq_SendAllNotesOff();
-}
-
 void Key_Release(int index) {
   Picture_Box& key = Sequencer.Seq_Keys[static_cast<std::size_t>(index)];
   key.picture = Seq_Keys_Pics(Key_Up_Entry(key));
+}
+
+void Key_Press(int index, const Mouse_Event& event) {
+  Picture_Box& key = Sequencer.Seq_Keys[static_cast<std::size_t>(index)];
+  key.picture = Seq_Keys_Pics(Key_Up_Entry(key) + Key_Down_Offset);
+  const bool heard = MIDI_Enabled == 1;
+  MIDI_Out_Open();
+  if (MIDI_Enabled == 1 && event.button == Left_Button)
+    Seq_SendNote(Seq_Base_Note + index, Strong_Key_Velocity);
+  if (MIDI_Enabled == 1 && event.button == Right_Button) Seq_SendAllNotesOff();
+  if (heard && MIDI_Enabled != 1) Key_Release(index);  // the box of an error has taken the release
 }
 
 void Directions_Click(std::size_t place) {
@@ -186,7 +188,7 @@ void Window_Load() {
 
 // The clock stops in any case, also where the Editor's stop only ends the wait for a tone.
 void Window_Query_Unload(bool&) {
-  if (Seq_Running == Flag_On) MELVOR.Seq_Tmr.enabled = false;
+  MELVOR.Seq_Tmr.enabled = false;
   ED_Seq_Stop_Click();
   Seq_Running = Flag_Off;
   Seq_SendAllNotesOff();

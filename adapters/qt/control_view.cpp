@@ -25,6 +25,7 @@ Control_View::Control_View(Shell& the_shell, Control& the_control, QWidget& the_
   if (auto* area = dynamic_cast<QAbstractScrollArea*>(&widget)) {
     area->viewport()->setAttribute(Qt::WA_NoMousePropagation);
   }
+  if (control.mouse_through) widget.setAttribute(Qt::WA_TransparentForMouseEvents);
   widget.setContextMenuPolicy(Qt::NoContextMenu);
   shell.control_widgets.insert(&widget, this);
   shell.changes.Add(control, *this);

@@ -1,5 +1,7 @@
 #include "adapters/qt/mouse_input.h"
 
+#include <QApplication>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <algorithm>
 #include <utility>
@@ -49,8 +51,15 @@ bool Mouse_Input::Press_Body(QWidget& receiver) {
   return true;
 }
 
+// A menu bar that is worked by keys keeps them, whatever is pressed.
+void Mouse_Input::Leave_Menu_Bar(const QWidget& receiver) {
+  auto* bar = qobject_cast<QMenuBar*>(QApplication::focusWidget());
+  if (bar != nullptr && bar != &receiver) bar->clearFocus();
+}
+
 bool Mouse_Input::Press(QWidget& receiver, const QMouseEvent& event) {
   Send_Pending();
+  Leave_Menu_Bar(receiver);
   Control_View* view = shell_.Control_At(receiver);
   if (view == nullptr) return Press_Body(receiver);
   Control& control = view->control;
@@ -63,7 +72,7 @@ bool Mouse_Input::Press(QWidget& receiver, const QMouseEvent& event) {
     held_ = 0;
   }
   held_ |= button;
-  const bool second = event.type() == QEvent::MouseButtonDblClick;
+  const bool second = event.type() == QEvent::MouseButtonDblClick && button == Left_Button;
   double_click_ = second && control.on_double_click;
   const Mouse_Event press = Event_At(*view, button);
   sent_place_ = view->widget.mapFromGlobal(global_);

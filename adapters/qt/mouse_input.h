@@ -33,6 +33,7 @@ struct Mouse_Input {
   void View_Gone(const Control_View& view);
 
  private:
+  static void Leave_Menu_Bar(const QWidget& receiver);
   bool Press(QWidget& receiver, const QMouseEvent& event);
   bool Release(QWidget& receiver, const QMouseEvent& event);
   bool Move(QWidget& receiver, const QMouseEvent& event);

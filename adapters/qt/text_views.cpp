@@ -31,6 +31,11 @@ struct Label_Widget final : QLabel {
   }
 };
 
+// A pasted line has its end with it, which has no place in a name.
+QString Without_Controls(QString text) {
+  return text.removeIf([](QChar sign) { return sign.category() == QChar::Other_Control; });
+}
+
 QWidget& Make_Text_Widget(const Control& control, QWidget& parent) {
   if (static_cast<const Text_Box&>(control).multi_line) return *new QPlainTextEdit(&parent);
   return *new QLineEdit(&parent);
@@ -75,10 +80,11 @@ void Text_Box_View::Listen(QLineEdit& line) {
   line.setReadOnly(Box().read_only);
   if (Box().max_length > 0) line.setMaxLength(Box().max_length);
   const auto report = [this, &line] {
+    if (const QString clean = Without_Controls(line.text()); clean != line.text()) return line.setText(clean);
     const int start = line.hasSelectedText() ? line.selectionStart() : line.cursorPosition();
     Report_Typed(line.text(), start, start + line.selectionLength());
   };
-  QObject::connect(&line, &QLineEdit::textEdited, &line, report);
+  QObject::connect(&line, &QLineEdit::textChanged, &line, report);
   QObject::connect(&line, &QLineEdit::selectionChanged, &line, report);
   QObject::connect(&line, &QLineEdit::cursorPositionChanged, &line, report);
 }

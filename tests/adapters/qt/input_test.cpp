@@ -1,5 +1,6 @@
 // Mouse and keys, as they reach the program.
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <tuple>
 
@@ -89,6 +90,8 @@ TEST_F(Desk, A_Key_That_Is_Taken_Does_Not_Reach_The_Text_Field) {
   Type(Qt::Key_N, Qt::ControlModifier);
   EXPECT_EQ(log, (Texts{"c", "new"}));
   EXPECT_EQ(text.selection_start(), 1);
+  dynamic_cast<QLineEdit&>(Widget("Text")).setText("pasted\n");  // as an assistive program does, too
+  EXPECT_EQ(text.text(), "pasted");
 }
 
 TEST_F(Desk, A_Key_That_Is_Released_And_Pressed_In_One_Moment_Is_Held) {
