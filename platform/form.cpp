@@ -212,7 +212,7 @@ Form* Next_Child(const Form& form, bool backwards) {
   std::vector<Form*> order = Form_Stack::children;
   if (backwards) std::ranges::reverse(order);
   const auto here = std::ranges::find(order, &form);
-  if (here != order.end()) std::ranges::rotate(order, here + 1);
+  if (here != order.end()) std::rotate(order.begin(), here + 1, order.end());
   const auto next = std::ranges::find_if(order, [](const Form* child) { return Can_Be_Active(*child); });
   return next == order.end() ? nullptr : *next;
 }
