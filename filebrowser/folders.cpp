@@ -179,7 +179,7 @@ void FD_Show_Directory(const std::string& path) {
   File_List& files = File_Dlg.FD_List_Files;
   std::vector<std::string> places{path, Current_Directory()};
   for (const Drive& drive : Drives()) places.push_back({drive.letter, ':', '\\'});
-  const auto shows = [&files](const std::string& place) {
+  const auto shows = [&](const std::string& place) {
     return !place.empty() && Error_Of([&] { files.Set_Path(place); }) == 0;
   };
   if (std::ranges::none_of(places, shows)) throw Runtime_Error(Error_Device_Unavailable);
