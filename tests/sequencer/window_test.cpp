@@ -62,6 +62,7 @@ TEST_F(Sequencer_Test, Without_MIDI_Or_A_Sequence_Nothing_Starts) {
   Seq_Stop_For_Tone_Menu();
   Seq_Stop_For_Setup();
   MIDI_Enabled = 0;
+  Menu_MIDI_CloseOutput();
   desktop.Click(Sequencer.Seq_Start);
   Seq_Start_Play();
   EXPECT_EQ(Seq_Running, Flag_Off);
@@ -72,9 +73,14 @@ TEST_F(Sequencer_Test, Keys_Play_Until_The_Right_Button) {
   Open_Window();
   desktop.Click(Sequencer.Seq_Keys[1]);
   desktop.Click(Sequencer.Seq_Keys[12], Right_Button);
-  MIDI_Enabled = 0;
+  const Picture raised = Sequencer.Seq_Keys[2].picture();
+  service.Fail_Next("Out_Short", 68);
+  desktop.Expect_Box(Answer::Ok);
+  desktop.Press(Sequencer.Seq_Keys[2]);
+  EXPECT_EQ(Sequencer.Seq_Keys[2].picture(), raised) << "the box takes the release";
+  EXPECT_EQ(MIDI_Enabled, 0);
   for (Picture_Box* key : {&Sequencer.Seq_Keys[0], &Editor.Keys_Pic}) desktop.Click(*key);
-  EXPECT_EQ(Sent(), (Texts{"90 31 7F", "B0 7B 00"}));
+  EXPECT_EQ(Sent(), (Texts{"90 31 7F", "B0 7B 00", "B0 7B 00"}));
 }
 
 TEST_F(Sequencer_Test, Letters_Choose_The_Transposition) {
