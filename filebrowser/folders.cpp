@@ -137,13 +137,18 @@ bool Can_Make(const std::string& name) {
   return Error_Of([&] { Directory_Make(Lower(Path_Slash(FD_Selected) + name)); }) == 0;
 }
 
+// Blanks around a name would make a directory that no path leads to.
+std::string Ask_For_Folder(std::string_view prompt, std::string_view title, std::string_view offered) {
+  return Trim(Lower(Input_Box(prompt, title, offered)));
+}
+
 void New_Folder() {
-  std::string name = Lower(
-      Input_Box("Please enter a name for the new folder in:\r" + FD_Selected, "Create new folder", "folder"));
+  std::string name = Ask_For_Folder("Please enter a name for the new folder in:\r" + FD_Selected,
+                                    "Create new folder", "folder");
   while (!name.empty() && !Can_Make(name)) {
-    name = Lower(
-        Input_Box("\n\nA folder or file of the given name already exists!!\n\nPlease enter another name:",
-                  "Create new directory", name));
+    name = Ask_For_Folder(
+        "\n\nA folder or file of the given name already exists!!\n\nPlease enter another name:",
+        "Create new directory", name);
   }
   File_Dlg.FD_List_Dirs.Refresh();
 }

@@ -63,7 +63,7 @@ void Window_Key(Key_Event& key) {
 void File_Name_Key(Key_Event& key) {
   if (key.code != Key::Enter) return;
   key.code = 0;
-  FD_Confirm();
+  if (!key.repeated) FD_Confirm();
 }
 
 }  // namespace

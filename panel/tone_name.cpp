@@ -3,6 +3,7 @@
 #include "core/records.h"
 #include "core/sysex.h"
 #include "core/tone_params.h"
+#include "midi/state.h"
 #include "panel/input_box.h"
 #include "platform/text.h"
 #include "windows/editor_window.h"
@@ -44,5 +45,6 @@ void Tone_Name_Wire() {
 }
 
 void Tone_Name_Open() {
-  if (Active_Dlg.empty()) Show(TName);
+  // Its end would free the menus that the wait for a tone has locked.
+  if (Active_Dlg.empty() && Receive_On == 0) Show(TName);
 }

@@ -102,4 +102,5 @@ void Child_View::Activate() { shell.frame->Activate_Child(*window_); }
 void Child_View::Bring_To_Front() {
   window_->raise();
   shell.frame->Keep_Order();
+  if (window_->isVisible() && window_->visibleRegion().isEmpty()) shell.frame->Reveal(*window_);
 }

@@ -19,7 +19,7 @@ bool Key_Input::Filter(QWidget& receiver, QKeyEvent& event) {
   // Open menus and drop-down lists, and a menu bar that is worked by keys, have their own ways.
   if (QApplication::activePopupWidget() != nullptr || qobject_cast<QMenuBar*>(&receiver) != nullptr)
     return false;
-  if (Target(receiver) == nullptr) return false;
+  if (Target(receiver) == nullptr) return event.type() == QEvent::KeyPress && Is_Held_Answer(event);
   switch (event.type()) {
     case QEvent::ShortcutOverride:
       // Accepting it keeps the toolkit's own shortcuts and access keys quiet. The key Alt alone leads to the
@@ -43,8 +43,16 @@ Form* Key_Input::Target(const QWidget& receiver) const {
   return &shell_.frame->form;
 }
 
+// Of a box: the key that was pressed before it opened must not answer it.
+bool Key_Input::Is_Held_Answer(const QKeyEvent& event) const {
+  const bool answers =
+      event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
+  return answers && Repeats(event);
+}
+
 // An event that was made up has no time.
 bool Key_Input::Repeats(const QKeyEvent& event) const {
+  if (event.isAutoRepeat()) return true;
   return event.timestamp() != 0 && event.timestamp() == released_ms_ && event.key() == released_key_;
 }
 
@@ -54,7 +62,7 @@ bool Key_Input::Press(QWidget& receiver, QKeyEvent& event) {
   if (form == nullptr) return true;
   Control* control = form->focus;
   Key_Event key = Key_Of(event);
-  key.repeated = key.repeated || Repeats(event);
+  key.repeated = Repeats(event);
   bool used = true;
   {
     const Shell::Event scope(shell_);

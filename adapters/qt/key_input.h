@@ -16,6 +16,7 @@ struct Key_Input {
   bool Filter(QWidget& receiver, QKeyEvent& event);
 
  private:
+  bool Is_Held_Answer(const QKeyEvent& event) const;
   bool Repeats(const QKeyEvent& event) const;
   Form* Target(const QWidget& receiver) const;
   bool Press(QWidget& receiver, QKeyEvent& event);

@@ -91,7 +91,9 @@ Answer Ask(std::string_view text, int style, std::string_view title, QWidget* ov
   box.setWindowTitle(To_Qt(title));
   box.setIcon(Icon_Of(style));
   box.setStandardButtons(row.buttons);
-  box.setDefaultButton(row.first);
+  // A question behind a stop sign is whether to overwrite: the Enter that saved must not answer it too.
+  const bool stops = (style & Box_Icon_Mask) == Box_Stop && (row.buttons & QMessageBox::Cancel) != 0;
+  box.setDefaultButton(stops ? QMessageBox::Cancel : row.first);
   box.setEscapeButton(row.escape);
   const int button = box.exec();
   return button == 0 || button == -1 ? Answer_Of(row.escape) : Answer_Of(button);

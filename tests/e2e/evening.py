@@ -113,8 +113,8 @@ class Evening:
         self.screen.type("first")
         self.screen.key("Return")
         # The dialog has written the file; the command behind it asks about it once more.
-        self.answer("File exists: c:\\first.syx Overwrite?", "Yes", "Escape")
-        self.screen.focus(left="Yes")
+        self.answer("File exists: c:\\first.syx Overwrite?", "Cancel", "Return")
+        self.screen.focus(left="Cancel")
         file = self.session.machine.home / "first.syx"
         assert file.read_bytes() == tone_file(self.record, self.patch)
 

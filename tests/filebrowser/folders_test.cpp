@@ -49,7 +49,7 @@ TEST_F(Folders_Test, Directories_Open_By_Key_Double_Click_And_Up) {
 TEST_F(Folders_Test, A_New_Folder_Gets_A_Name_That_Is_Free) {
   Open("Open_SYX");
   Press_Directory("C:\\work");
-  for (const char* name : {"SUB", "New One"}) {
+  for (const char* name : {"SUB", "New One "}) {
     desktop.At_Wait([name] {
       Input_Dlg.Input_Textbox.Set_Text(name);
       User_Clicked(Input_Dlg.Input_OK);
