@@ -102,7 +102,7 @@ TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
   EXPECT_EQ(Message_Box("Overwrite?", Box_Yes_No_Cancel + Box_Stop), Answer::Cancel);
   At_Box([](QWidget& box) {
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
-    QApplication::sendEvent(QApplication::focusWidget(), &held);
+    QApplication::sendEvent(dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes), &held);
     QTest::keyClick(&box, Qt::Key_Escape);
   });
   EXPECT_EQ(Message_Box("Save?", Box_Yes_No_Cancel), Answer::Cancel) << "not the Enter that led here";
