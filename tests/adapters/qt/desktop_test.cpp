@@ -1,5 +1,4 @@
 // The order of events, and message boxes.
-#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -100,15 +99,6 @@ TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
   }
   At_Box([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
   EXPECT_EQ(Message_Box("Overwrite?", Box_Yes_No_Cancel + Box_Stop), Answer::Cancel);
-  At_Box([](QWidget& box) {
-    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {  // in one moment: it is held
-      QKeyEvent event(type, Qt::Key_Return, {}, "\r");
-      event.setTimestamp(7);
-      QApplication::sendEvent(dynamic_cast<QMessageBox&>(box).button(QMessageBox::Yes), &event);
-    }
-    QTest::keyClick(&box, Qt::Key_Escape);
-  });
-  EXPECT_EQ(Message_Box("Save?", Box_Yes_No_Cancel), Answer::Cancel) << "not the Enter that led here";
 }
 
 }  // namespace
