@@ -54,10 +54,10 @@ void Append_Value(std::string& text, int value) {
   text += ' ';
 }
 
-void Append_Patch(std::string& text) {
+void Append_Patch(std::string& text, const Byte_Record<Patch_Size>& patch) {
   for (int index = 0; index < Patch_Sent; ++index) {
     Append_Value(text, index);
-    Append_Value(text, Patch_Rec[index]);
+    Append_Value(text, patch[index]);
   }
 }
 
@@ -89,7 +89,7 @@ void SysEx_Dump_Text() {
   for (const std::uint8_t byte : Tone.bytes) Append_Value(text, byte);
   text += "247 ";  // decimal, and thus two bytes on the wire
   text += SysEx_IPR_Patch;
-  Append_Patch(text);
+  Append_Patch(text, Patch_Rec);
   text += "F7";
   SysEx_Text = Hex_To_Bytes(text);
 }
@@ -129,13 +129,17 @@ void Tone_Name_Send() {
   MIDI_Send_Long(Hex_To_Bytes(single_text));
 }
 
-void SysEx_Image_Build() {
+Byte_String SysEx_Image_Of(const Byte_Record<Tone_Size>& tone, const Byte_Record<Patch_Size>& patch) {
   std::string text = Head(APR, " 21 20 01 ");
-  for (const std::uint8_t byte : Tone.bytes) Append_Value(text, byte);
+  for (const std::uint8_t byte : tone.bytes) Append_Value(text, byte);
   text += "F7 ";
   text += Head(IPR, " 21 30 01 ");
-  Append_Patch(text);
+  Append_Patch(text, patch);
   text += "F7";
-  std::ranges::copy(Hex_To_Bytes(text), SysEx_Image.begin());
+  return Hex_To_Bytes(text);
+}
+
+void SysEx_Image_Build() {
+  std::ranges::copy(SysEx_Image_Of(Tone, Patch_Rec), SysEx_Image.begin());
   SysEx_Heads_Build();
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/records.h"
 #include "platform/midi_service.h"
 
 // Heads of seven bytes with a trailing blank. APR: all parameters (0x35), IPR: individual ones (0x36).
@@ -45,6 +46,7 @@ void SysEx_Param_Send(std::string_view head, int parameter, int value);
 
 // The image of a tone file: tone dump and patch message with model byte 0x21, whatever the instrument.
 constexpr std::size_t SysEx_Image_Size = 89;
+Byte_String SysEx_Image_Of(const Byte_Record<Tone_Size>& tone, const Byte_Record<Patch_Size>& patch);
 extern std::array<unsigned char, SysEx_Image_Size> SysEx_Image;
-// Fills it, then composes the heads of the present instrument again.
+// Fills it from the editor's records, then composes the heads of the present instrument again.
 void SysEx_Image_Build();

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/records.h"
+#include "core/save_as.h"
 #include "core/sysex.h"
-#include "core/tone_files.h"
 #include "core/tone_params.h"
 #include "core/undo.h"
 #include "midi/input.h"

@@ -1,11 +1,12 @@
 #include "core/tone_files.h"
 
-#include <array>
+#include <algorithm>
 
 #include "core/recent.h"
 #include "core/records.h"
-#include "core/settings.h"
+#include "core/save_as.h"
 #include "core/sysex.h"
+#include "core/tone_origin.h"
 #include "core/tone_params.h"
 #include "core/undo.h"
 #include "midi/state.h"
@@ -16,7 +17,6 @@
 #include "platform/text.h"
 #include "windows/file_dlg_window.h"
 #include "windows/frame_window.h"
-#include "windows/modal.h"
 #include "windows/state.h"
 
 std::uint8_t Tone_Found = Flag_Off;
@@ -25,6 +25,9 @@ int File_Error = 0;
 namespace {
 
 constexpr std::uint8_t SysEx_Start = 0xF0;
+constexpr std::uint8_t SysEx_End = 0xF7;
+constexpr std::uint8_t Highest_Data_Byte = 0x7F;
+constexpr std::string_view Tone_Message_Start = "\xF0\x41\x35";  // of any model and channel
 constexpr int Head_Size = 7;
 constexpr std::string_view Tone_Head_Form = "F0 41 35 ?? 21 20 01 ";
 constexpr std::string_view Patch_Head_Form = "F0 41 36 ?? 21 30 01 ";
@@ -53,6 +56,7 @@ struct Scan {
   Reader file;
   std::string head;  // grows behind a foreign message, and then matches nothing any more
   bool tone_at_start = false;
+  Byte_Record<Tone_Size> first_tone;  // once Tone_Found is set
 };
 
 void Take_Head(Scan& scan) {
@@ -77,6 +81,7 @@ bool Take_Further_Tone(Load_Mode mode) {
 void Take_Tone(Scan& scan) {
   Byte_Record<Tone_Size> tone;
   for (int index = 0; index < Tone_Size; ++index) tone[index] = scan.file.Byte(scan.file.position + index);
+  if (Tone_Found == Flag_Off) scan.first_tone = tone;
   Tone = tone;
   scan.file.Step(Tone_Size);
   Tone_Found = Flag_On;
@@ -109,15 +114,16 @@ bool Take_Message(Scan& scan, Load_Mode mode) {
   return true;
 }
 
-void Finish_Open(const std::string& path) {
+void Finish_Open(const Scan& scan, const std::string& path) {
   if (Tone_Found == Flag_Off) {
+    Tone_Loading = Flag_Off;
     Message_Box("Wrong MIDI system exclusive data!", Box_Stop);
     return;
   }
-  MELVOR.caption = "MELVOR - " + Upper(path);
-  MELVOR.Menu_File_SYX_Save.enabled = true;
+  Title_Show(path);
   Recent_Tone_Add(path);
   Tone_File = path;
+  Origin_Sound_Kept({scan.first_tone, Patch_Rec});  // a further tone is not what a save would find there
   Tone_Loading = Flag_Off;
   FD_Done = Flag_On;
 }
@@ -129,7 +135,7 @@ void Scan_File(const std::string& path, Load_Mode mode) {
     if (scan.file.Byte(scan.file.position) == SysEx_Start && !Take_Message(scan, mode)) return;
     scan.file.Step(1);
   }
-  if (mode == Load_Mode::Open) Finish_Open(path);
+  if (mode == Load_Mode::Open) Finish_Open(scan, path);
 }
 
 void Tell_File_Error(const Runtime_Error& error) {
@@ -142,40 +148,40 @@ void Tell_File_Error(const Runtime_Error& error) {
   }
 }
 
-void Show_Title() {
-  MELVOR.caption = "MELVOR - " + Upper(Tone_Title);
-  MELVOR.Menu_File_SYX_Save.enabled = true;
+// --- what a save would overwrite
+
+constexpr std::size_t Patch_Message_Place = 67;  // of a saved file, behind the tone
+
+// Whether the file's bytes behind its tone are the patch message that a save writes there.
+bool Holds_Own_Patch(std::string_view file) {
+  Byte_String head;
+  for (int place = 0; place < Head_Size; ++place)
+    head +=
+        Hex_2(static_cast<std::uint8_t>(file[Patch_Message_Place + static_cast<std::size_t>(place)])) + " ";
+  const std::string_view values = file.substr(Patch_Message_Place + Head_Size, 2 * Patch_Sent);
+  const auto is_data = [](char byte) { return static_cast<std::uint8_t>(byte) <= Highest_Data_Byte; };
+  return Has_Form(head, Patch_Head_Form) && std::ranges::all_of(values, is_data) &&
+         static_cast<std::uint8_t>(file[SysEx_Image_Size - 1]) == SysEx_End;
 }
 
-// One round of Save As. False: the user wants to choose another name.
-bool Save_As_Round() {
-  Dlg_Kind = "SaveAs_SYX";
-  Show(File_Dlg);
-  Dlg_Wait();
-  if (!Tone_File.empty()) {
-    const bool root = Has_Form(Dir_Tones, "?:\\");
-    Tone_Title = Path_Behind(Tone_File, Dir_Tones.size() + (root ? 0 : 1));
-  }
-  if (File_Exists(Tone_File) == Flag_False) {
-    Tone_Save();
-    Show_Title();
-    return true;
-  }
-  const Answer answer =
-      Message_Box("File exists: " + Tone_File + " Overwrite?", Box_Yes_No_Cancel + Box_Stop);
-  if (answer == Answer::Yes) Tone_Save();
-  return answer != Answer::No;
+// The name of the tone whose message begins in the bytes that a save writes behind its own tone, in quotes.
+std::string Next_Tone(std::string_view file) {
+  const std::size_t place = file.substr(0, SysEx_Image_Size).find(Tone_Message_Start, Patch_Message_Place);
+  if (place == std::string_view::npos || file.size() < place + Head_Size + Tone_Name_Length) return {};
+  return "\"" + Trim(file.substr(place + Head_Size, Tone_Name_Length)) + "\"";
 }
 
-void Tell_Save_As_Error(const Runtime_Error& error) {
-  if (error.number == Error_Cancelled || error.number == Error_File_Not_Found) return;
-  if (error.number == Error_Bad_File_Name) {
-    Message_Box("Wrong filename!", Box_Stop);
-  } else {
-    Message_Box(
-        "SaveAs Error " + std::to_string(error.number) + " : " + std::string(Error_Text(error.number)),
-        Box_Stop);
-  }
+// A save writes its 89 bytes over the file's first ones. In a bank these reach into the next tone.
+bool May_Overwrite(const std::string& path) {
+  if (File_Probe(path) != 0) return true;
+  const Byte_String file = File_Read(path, SysEx_Image_Size + Tone_Size);
+  if (file.size() <= SysEx_Image_Size || Holds_Own_Patch(file)) return true;
+  const std::string next = Next_Tone(file);
+  const std::string text =
+      next.empty() ? "File contains other data behind its first 67 bytes: " + path +
+                         "\rSave writes over 22 bytes of it. Save anyway?"
+                   : "File contains another TONE: " + path + "\rSave writes over " + next + ". Save anyway?";
+  return Message_Box(text, Box_Yes_No + Box_Stop) == Answer::Yes;
 }
 
 }  // namespace
@@ -190,33 +196,33 @@ void Tone_Load(const std::string& path, Load_Mode mode) {
   try {
     Scan_File(path, mode);
   } catch (const Runtime_Error& error) {
+    Tone_Loading = Flag_Off;
+    if (mode == Load_Mode::Open && Tone_Found == Flag_On) Tone_Saved = Flag_False;
     Tell_File_Error(error);
   }
 }
 
-void Tone_Save() {
+bool Tone_Save() {
   File_Error = 0;
   SysEx_Heads_Build();
   SysEx_Image_Build();
   const std::string_view image(reinterpret_cast<const char*>(SysEx_Image.data()), SysEx_Image.size());
   try {
+    if (!May_Overwrite(Tone_File)) return false;
+    if (FD_Open == Flag_False)
+      Undo_Keep_Beside_File();  // Save As brings the undo copy into the editor instead
     File_Keep_Copy(Tone_File, image);
     File_Write(Tone_File, image, Old_Content::Keep_Tail);
+    Origin_Sound_Kept();
+    Undo_File_Written();
     Recent_Tone_Add(Tone_File);
     Tone_Saved = Flag_True;
     MELVOR.Menu_Edit_Undo.enabled = false;
+    return true;
   } catch (const Runtime_Error& error) {
     Tell_File_Error(error);
+    return false;
   }
-}
-
-void Tone_SaveAs() {
-  try {
-    while (!Save_As_Round()) continue;
-  } catch (const Runtime_Error& error) {
-    Tell_Save_As_Error(error);
-  }
-  Undo_Keep_Pushed_Out();
 }
 
 int File_Exists(std::string_view path) {

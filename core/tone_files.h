@@ -14,14 +14,14 @@ extern std::uint8_t Tone_Found;
 
 // Loads the first tone of the file (asking about further ones) and its patch. Failures are told in boxes; a
 // tone that the end of the file cuts short leaves Tone as it was. With Autosend on, a dump goes out after
-// each message. A preview leaves Tone_Loading at Flag_On.
+// each message. A preview leaves Tone_Loading at Flag_On. A load that fails leaves it at Flag_Off, and one
+// that had taken a tone by then leaves that as an unsaved change.
 void Tone_Load(const std::string& path, Load_Mode mode);
 
-// Writes Tone_File. Failures are told in boxes; then the old file is whole and Tone_Saved as it was.
-void Tone_Save();
-
-// Runs the file dialog in the kind "SaveAs_SYX", then asks about an existing file and saves.
-void Tone_SaveAs();
+// Writes Tone_File; asks first if that would overwrite what another save of MELVOR has not put there. False
+// if nothing was written: by the user's answer, or by a failure, which is told in a box; then the old file is
+// whole and Tone_Saved as it was.
+bool Tone_Save();
 
 // Flag_True if the path can be opened for reading, Flag_False if not. A single trailing "\" is taken off; an
 // empty path is not opened and counts as there. The error number is kept in File_Error, 0 for none.

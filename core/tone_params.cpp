@@ -4,6 +4,7 @@
 
 #include "core/records.h"
 #include "core/sysex.h"
+#include "core/tone_origin.h"
 #include "platform/desktop.h"
 #include "platform/text.h"
 #include "windows/editor_window.h"
@@ -61,6 +62,7 @@ void Tone_Clear() {
   Tone[Index_DCO2_FTune] = Fine_Tune_Centre;
   Patch_Rec.bytes.fill(0);
   Patch_Rec[Patch_Index_UDTune] = Fine_Tune_Centre;
+  Origin_Sound_Kept();
 }
 
 void Tone_Param_Set(int index, int value) {

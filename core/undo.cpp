@@ -6,60 +6,56 @@
 #include "core/sysex.h"
 #include "core/tone_params.h"
 #include "midi/state.h"
+#include "platform/files.h"
+#include "platform/text.h"
 #include "windows/frame_window.h"
 #include "windows/state.h"
 
 namespace {
 
-struct Sound {
-  Byte_Record<Tone_Size> tone;
-  Byte_Record<Patch_Size> patch;
-  int saved;
-};
+std::optional<Tone_Origin> undo_origin;  // none while the copies are those of the start
 
-std::optional<Sound> pushed_out;  // of the editor, by the undo copies that a Save As brings back
+bool Unsaved_Copy() { return undo_origin && undo_origin->saved == Flag_False; }
 
-void Copy_Back() {
-  Tone = Tone_Undo;
-  Patch_Rec = Patch_Undo;
-}
+void Copy_Back() { Sound_Place({Tone_Undo, Patch_Undo}); }
 
 }  // namespace
 
-void Undo_Store() {
-  Tone_Undo = Tone;
-  Patch_Undo = Patch_Rec;
+void Undo_Store() { Undo_Keep(Sound_Now(), Origin_Now()); }
+
+void Undo_Keep(const Sound& sound, const Tone_Origin& origin) {
+  Tone_Undo = sound.tone;
+  Patch_Undo = sound.patch;
+  undo_origin = origin;
   MELVOR.Menu_Edit_Undo.enabled = true;
 }
 
 void Undo_Restore() {
   Copy_Back();
+  if (undo_origin) Origin_Place(*undo_origin);
   Tone_Patch_Show();
   MELVOR.Menu_Edit_Undo.enabled = false;
   SysEx_Dump_Send();
 }
 
 void Undo_Restore_Quiet() {
-  Undo_Take_Back();
+  Copy_Back();
+  if (Unsaved_Copy()) Tone_Saved = Flag_False;
   Tone_Loading = Flag_On;
   Tone_Patch_Show();
   Tone_Loading = Flag_Off;
   if (Autosend == 1) SysEx_Dump_Send();
 }
 
-void Undo_Take_Back() {
-  if (!pushed_out) pushed_out = Sound{Tone, Patch_Rec, Tone_Saved};
-  Copy_Back();
+void Undo_File_Written() {
+  if (undo_origin && Same_Text(undo_origin->file, Tone_File)) undo_origin->kept = Sound_Now();
 }
 
-void Undo_Keep_Pushed_Out() {
-  if (pushed_out && !(pushed_out->tone == Tone && pushed_out->patch == Patch_Rec)) {
-    Tone_Undo = pushed_out->tone;
-    Patch_Undo = pushed_out->patch;
-    MELVOR.Menu_Edit_Undo.enabled = true;
-    if (pushed_out->saved == Flag_False) Tone_Saved = Flag_False;  // what a later try wrote was the undo copy
-  }
-  pushed_out.reset();
+void Undo_Keep_Beside_File() {
+  if (!Unsaved_Copy() || !MELVOR.Menu_Edit_Undo.enabled()) return;
+  const Sound copy{Tone_Undo, Patch_Undo};
+  if (copy != Sound_Now()) File_Put_Copy(Tone_File, SysEx_Image_Of(copy.tone, copy.patch));
+  undo_origin->saved = Flag_True;
 }
 
 void Tone_Patch_Show() {

@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "core/records.h"
+#include "core/save_as.h"
 #include "core/tone_files.h"
-#include "core/undo.h"
 #include "filebrowser/state.h"
 #include "platform/desktop.h"
 #include "platform/profile_file.h"
@@ -48,24 +48,30 @@ bool May_Write(const std::string& path) {
          Answer::Yes;
 }
 
-// The tone's flag decides for both kinds of files.
-void Save_Typed(std::string& file, void (*save)()) {
+// Whether the user has chosen a name, which file then holds, and agrees to write there.
+bool May_Save_Typed(std::string& file) {
+  Show_Directory_Of_Files();
+  if (Lower(Typed()) == No_Choice) return false;
   file = Lower(Typed_Path());
-  if (!May_Write(file)) return;
-  save();
+  return May_Write(file);
+}
+
+// The tone's flag decides for both kinds of files.
+void Close_After_Save() {
   if (Tone_Saved == Flag_True) FD_Done = Flag_On;
 }
 
 void Confirm_Save_Tone() {
-  Show_Directory_Of_Files();
-  if (Lower(Typed()) == No_Choice) return;
-  Save_Typed(Tone_File, Tone_Save);
-  Undo_Restore_Quiet();
+  if (!May_Save_Typed(Tone_File)) return;
+  const bool written = Tone_Save();
+  Close_After_Save();
+  if (written) Save_As_Written();
 }
 
 void Confirm_Save_Sequence() {
-  Show_Directory_Of_Files();
-  if (Lower(Typed()) != No_Choice) Save_Typed(Seq_File, Seq_Save);
+  if (!May_Save_Typed(Seq_File)) return;
+  Seq_Save();
+  Close_After_Save();
 }
 
 // The name alone is taken; Save As goes on behind the dialog.
@@ -73,7 +79,6 @@ void Pick_Tone_Name() {
   if (Lower(Typed()) == No_Choice) return;
   Tone_File = Lower(Typed_Path());
   FD_Done = Flag_On;
-  Undo_Take_Back();
 }
 
 // --- by kind

@@ -4,6 +4,7 @@
 
 #include "core/recent.h"
 #include "core/records.h"
+#include "core/save_as.h"
 #include "core/settings.h"
 #include "core/tone_commands.h"
 #include "core/tone_files.h"
@@ -37,7 +38,12 @@ void Open_Tone() {
 template <std::size_t place>
 void Open_Recent_Tone() {
   const std::string path = Recent_Tones[place];  // the load moves the list
-  if (!path.empty()) Tone_Load(path, Load_Mode::Open);
+  if (path.empty()) return;
+  const Sound sound = Sound_Now();
+  const Tone_Origin origin = Origin_Now();
+  Tone_Load(path, Load_Mode::Open);
+  // Nobody was asked about it.
+  if (origin.saved == Flag_False && Sound_Now() != sound) Undo_Keep(sound, origin);
 }
 
 template <int place>

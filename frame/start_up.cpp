@@ -4,6 +4,7 @@
 #include "core/settings.h"
 #include "core/sysex.h"
 #include "core/tone_commands.h"
+#include "core/tone_origin.h"
 #include "core/tone_params.h"
 #include "filebrowser/dialog.h"
 #include "frame/closing.h"
@@ -23,6 +24,7 @@
 #include "panel/tone_name.h"
 #include "platform/desktop.h"
 #include "platform/directories.h"
+#include "platform/dispatch.h"
 #include "platform/profile_file.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_clock.h"
@@ -142,6 +144,7 @@ bool Start_Up() {
   MELVOR.on_click = Frame_Click;
   MELVOR.MidiNotifyControl.on_change = MIDI_In_Poll;
   MELVOR.Timer_Display.on_tick = Timer_Display_Tick;
+  Event_Ended = Title_Mark;
   Show(MELVOR);
   return MELVOR.Loaded();
 }

@@ -6,6 +6,8 @@
 #include "platform/desktop.h"
 #include "platform/runtime_error.h"
 
+std::function<void()> Event_Ended;
+
 namespace {
 
 void Show_Failure(int number) {

@@ -1,6 +1,7 @@
 // The one place where an event enters the program, and where a failure that no handler took ends.
 #pragma once
 
+#include <functional>
 #include <utility>
 
 // Thrown out of a wait, for a dialog or a box, in which the program has been closed: whatever waited has
@@ -11,6 +12,9 @@ struct Program_Ended {};
 // REQUIRES: called inside a catch block.
 void Report_Failure() noexcept;
 
+// Called at the end of every event, and of those inside another one; must not raise. Filled at the start.
+extern std::function<void()> Event_Ended;
+
 // Runs one event. What escapes from it is reported; the event ends there, the program and its data live on.
 template <class Handler>
 void Dispatch(Handler&& handler) noexcept {
@@ -19,4 +23,5 @@ void Dispatch(Handler&& handler) noexcept {
   } catch (...) {
     Report_Failure();
   }
+  if (Event_Ended) Event_Ended();
 }

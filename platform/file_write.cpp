@@ -169,6 +169,19 @@ bool Holds(const std::string& host_path, std::string_view content) {
          Host_Content(host_path, SIZE_MAX) == content;
 }
 
+// Puts the content beside target as its newest copy, unless it is that already.
+void Put_Newest_Copy(const std::string& target, const std::optional<struct stat>& old_file,
+                     std::string_view content) {
+  const std::string newest = target + std::string(Copy_Endings.front());
+  if (Holds(newest, content)) return;
+  New_File copy(Parent_Directory(target), old_file ? old_file->st_mode & 0777 : 0666);
+  copy.Write(content);
+  if (old_file) copy.Take_Rights(*old_file);
+  copy.Flush();
+  Shift_Copies(target);
+  copy.Take_Place(newest);
+}
+
 }  // namespace
 
 void File_Write(std::string_view path, std::string_view bytes, Old_Content old) {
@@ -190,12 +203,11 @@ void File_Keep_Copy(std::string_view path, std::optional<std::string_view> new_b
   const std::optional<struct stat> old_file = Old_File(target);
   if (!old_file) return;
   const std::string content = Host_Content(target, SIZE_MAX);
-  const std::string newest = target + std::string(Copy_Endings.front());
-  if ((new_bytes && content.starts_with(*new_bytes)) || Holds(newest, content)) return;
-  New_File copy(Parent_Directory(target), old_file->st_mode & 0777);
-  copy.Write(content);
-  copy.Take_Rights(*old_file);
-  copy.Flush();
-  Shift_Copies(target);
-  copy.Take_Place(newest);
+  if (new_bytes && content.starts_with(*new_bytes)) return;
+  Put_Newest_Copy(target, old_file, content);
+}
+
+void File_Put_Copy(std::string_view path, std::string_view bytes) {
+  const std::string target = Link_Target(Host_Path(path));
+  Put_Newest_Copy(target, Old_File(target), bytes);
 }

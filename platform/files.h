@@ -28,6 +28,9 @@ void File_Write(std::string_view path, std::string_view bytes, Old_Content old =
 // file, or it is about to get new_bytes and they are a prefix of it.
 void File_Keep_Copy(std::string_view path, std::optional<std::string_view> new_bytes = std::nullopt);
 
+// Puts the bytes beside the file as its newest copy, NAME~; the file itself need not exist.
+void File_Put_Copy(std::string_view path, std::string_view bytes);
+
 // 0 if a regular file can be opened for reading there, else the error number.
 int File_Probe(std::string_view path);
 

@@ -39,6 +39,7 @@ struct Form : Component {
   bool key_preview = false;  // sees keys before its controls
 
   Property<std::string> caption{*this};
+  Property<bool> modified{*this, false};  // the title bears the desktop's mark of a changed document
   // Place in twips: of the screen for the frame and an independent window, else of the frame's inside. The
   // size is that of the inside of the window, without title bar and borders, but for the frame, whose size is
   // the whole.

@@ -67,9 +67,11 @@ void Form_View::Detach() {
 }
 
 void Form_View::Update() {
-  if (const QString caption = To_Qt(form.caption()); Window().windowTitle() != caption) {
-    Window().setWindowTitle(caption);
-  }
+  QString title = To_Qt(form.caption());
+  // Where the toolkit's mark of a changed document goes; doubled it is these three characters themselves.
+  if (form.role == Form_Role::Frame) title = title.replace("[*]", "[*][*]") + "[*]";
+  if (Window().windowTitle() != title) Window().setWindowTitle(title);
+  if (Window().isWindowModified() != form.modified()) Window().setWindowModified(form.modified());
   Show_Pointer();
   Show_Window();
 }

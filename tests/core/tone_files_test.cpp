@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "core/recent.h"
+#include "core/save_as.h"
 #include "core/settings.h"
 #include "core/tone_commands.h"
 #include "core/undo.h"
@@ -17,6 +18,9 @@ namespace {
 std::string Tone_Message(char value) {
   return Bytes_Of("F0 41 35 00 21 20 01") + std::string(59, value) + "\xF7";
 }
+
+const std::string Patch_Message =
+    Bytes_Of("F0 41 36 00 21 30 01 00 01 01 01 02 01 03 01 04 01 05 01 06 01 F7");
 
 // The dialog notes its name at its load, and is gone when the user has chosen.
 struct Tone_Files : Program {
@@ -59,8 +63,9 @@ TEST_F(Tone_Files, A_Saved_File_Is_89_Bytes_For_Any_Instrument_And_Comes_Back_Th
   MIDI_Channel = 5;
   Tone_File = "C:\\b.syx";
   Tone_Saved = Flag_False;
-  root.Put("b.syx", std::string(100, 'x'));
-  Tone_Save();
+  const std::string before = Tone_Message(1) + Patch_Message + std::string(11, 'x');
+  root.Put("b.syx", before);
+  EXPECT_TRUE(Tone_Save());
   EXPECT_EQ(Tone_Saved, Flag_True);
   EXPECT_EQ(SysEx_APR_Tone, "F0 41 35 4 24 20 01 ") << "messages are the instrument's again";
   const std::string file = root.Get("b.syx");
@@ -68,7 +73,7 @@ TEST_F(Tone_Files, A_Saved_File_Is_89_Bytes_For_Any_Instrument_And_Comes_Back_Th
   EXPECT_EQ(Hex_Text(file.substr(66, 23)),
             "F7 F0 41 36 04 21 30 01 00 3C 01 3D 02 3E 03 3F 04 40 05 41 06 42 F7");
   EXPECT_EQ(file.substr(89), std::string(11, 'x')) << "the tail of a longer file";
-  EXPECT_EQ(root.Get("b.syx~"), std::string(100, 'x'));
+  EXPECT_EQ(root.Get("b.syx~"), before);
   Tone_Clear();
   Tone_Load("C:\\b.syx", Load_Mode::Open);
   EXPECT_TRUE(Tone == tone && Patch_Rec == patch);
@@ -99,6 +104,51 @@ TEST_F(Tone_Files, A_Further_Tone_Is_Asked_About_In_The_Words_Of_The_Mode) {
   EXPECT_EQ(Tone[0], 40);
 }
 
+TEST_F(Tone_Files, A_Save_Asks_Before_It_Writes_Over_What_Is_Not_Its_Own) {
+  const std::string next =
+      "File contains another TONE: C:\\a.syx\rSave writes over \"((((((((((\". Save anyway?";
+  const std::string other =
+      "File contains other data behind its first 67 bytes: C:\\a.syx\rSave writes over 22 bytes of it. Save "
+      "anyway?";
+  const std::string tone = Tone_Message(1), short_patch = Bytes_Of("F0 41 36 00 21 30 01 00 05 F7");
+  Tone_File = "C:\\a.syx";
+  for (const auto& [name, file, question] :
+       {std::tuple{"a bank", tone + Tone_Message(40) + Tone_Message(41), next},
+        {"a tone behind a shorter patch", tone + short_patch + Tone_Message(40), next},
+        {"another patch", tone + Bytes_Of("F0 41 36 00 24") + Patch_Message.substr(5) + "x", other},
+        {"a patch with a status byte in it",
+         tone + Patch_Message.substr(0, 10) + "\xF7" + std::string(20, 'x'), other},
+        {"another kind of file", std::string(90, 'x'), other},
+        {"the same, no longer than a tone", std::string(89, 'x'), std::string()},
+        {"a tone with its patch before another", tone + Patch_Message + Tone_Message(40), std::string()}}) {
+    SCOPED_TRACE(name);
+    root.Put("a.syx", file);
+    if (!question.empty()) {
+      desktop.Expect_Box(Answer::No, question);
+      EXPECT_FALSE(Tone_Save());
+      EXPECT_EQ(root.Get("a.syx"), file);
+      desktop.Expect_Box(Answer::Yes);
+    }
+    EXPECT_TRUE(Tone_Save());
+    EXPECT_EQ(root.Get("a.syx~"), file);
+  }
+}
+
+TEST_F(Tone_Files, A_Load_That_Breaks_Off_Counts_As_A_Change_And_Lets_The_Display_Work) {
+  for (const auto& [file, box, saved, first] :
+       {std::tuple{Tone_Message(40) + Patch_Message.substr(0, 10), "Error 62: Input past end of file",
+                   Flag_False, 40},
+        {Tone_Message(40).substr(0, 60), "Error 62: Input past end of file", Flag_True, 32},
+        {std::string("no tone"), "Wrong MIDI system exclusive data!", Flag_True, 32}}) {
+    Tone_Clear();
+    desktop.Expect_Box(Answer::Ok, box);
+    Load(file);
+    EXPECT_EQ(Tone[0], first);
+    EXPECT_EQ(Tone_Saved, saved);
+    EXPECT_EQ(Tone_Loading, Flag_Off);
+  }
+}
+
 TEST_F(Tone_Files, A_Save_That_Fails_Is_Told_And_Stays_Unsaved) {
   Tone_Saved = Flag_False;
   for (const auto& [path, box] :
@@ -110,21 +160,21 @@ TEST_F(Tone_Files, A_Save_That_Fails_Is_Told_And_Stays_Unsaved) {
   }
 }
 
-TEST_F(Tone_Files, Save_As_Writes_A_New_Name_And_Asks_About_An_Old_One) {
-  Choose_At_Wait("C:\\new.syx");
-  Tone_SaveAs();
-  EXPECT_EQ(MELVOR.caption(), "MELVOR - NEW.SYX");
+TEST_F(Tone_Files, Save_As_Asks_About_A_File_That_The_Dialog_Has_Not_Written) {
+  root.Put("old.syx", Tone_Message(40));
   Tone[11] = 127;
   for (const Answer answer : {Answer::No, Answer::Cancel}) {
-    Choose_At_Wait("C:\\new.syx");
-    desktop.Expect_Box(answer, "File exists: C:\\new.syx Overwrite?");
+    Choose_At_Wait("C:\\old.syx");
+    desktop.Expect_Box(answer, "File exists: C:\\old.syx Overwrite?");
   }
   Tone_SaveAs();
-  EXPECT_EQ(root.Get("new.syx")[18], 0);
-  Choose_At_Wait("C:\\new.syx");
+  EXPECT_EQ(root.Get("old.syx"), Tone_Message(40));
+  EXPECT_EQ(Tone_File, "") << "Save must not overwrite what was declined";
+  Choose_At_Wait("C:\\old.syx");
   desktop.Expect_Box(Answer::Yes);
   Tone_SaveAs();
-  EXPECT_EQ(root.Get("new.syx")[18], 127);
+  EXPECT_EQ(root.Get("old.syx")[18], 127);
+  EXPECT_EQ(MELVOR.caption(), "MELVOR - OLD.SYX");
 }
 
 TEST_F(Tone_Files, A_Command_That_Asks_Goes_On_Behind_A_Save_Only) {
@@ -150,36 +200,30 @@ TEST_F(Tone_Files, A_Dialog_That_Does_Not_Open_Is_Told) {
   }
 }
 
-// What the confirm of the dialog does: it saves, then puts the undo copies into the editor.
-TEST_F(Tone_Files, An_Edited_Sound_Saved_Over_An_Old_Name_Is_Still_On_Disk) {
-  Load(Tone_Message(40));
+// What the confirm of the dialog does: it saves, and the undo copy comes into the editor.
+TEST_F(Tone_Files, Undo_Brings_Back_What_Save_As_Saved_With_Its_File) {
+  Load(Tone_Message(40) + Patch_Message);
   Tone_Param_Set(34, 99);
-  desktop.At_Wait([] {
-    Tone_File = "c:\\a.syx";
-    Tone_Save();
-    Undo_Restore_Quiet();
-    Unload(File_Dlg);
-  });
-  desktop.Expect_Box(Answer::Yes, "File exists: c:\\a.syx Overwrite?");
-  Tone_SaveAs();
-  Tone_Save();
-  EXPECT_EQ(root.Get("a.syx~")[7 + 34], 99) << "the edited sound";
-  EXPECT_EQ(root.Get("a.syx~2")[7 + 34], 40) << "the sound before";
-  Undo_Restore();
-  EXPECT_EQ(Tone[34], 99) << "and by Undo in the editor";
-
-  Tone_Param_Set(34, 98);
-  desktop.At_Wait([] {
-    Undo_Restore_Quiet();  // a try that did not write
-    Tone_Save();
-    Undo_Restore_Quiet();
-    Unload(File_Dlg);
-  });
-  desktop.Expect_Box(Answer::Cancel, "File exists: c:\\a.syx Overwrite?");
-  Tone_SaveAs();
-  EXPECT_EQ(Tone_Saved, Flag_False);
-  Undo_Restore();
-  EXPECT_EQ(Tone[34], 98);
+  Tone_Undo.bytes.fill(7);
+  for (const Answer answer : {Answer::Yes, Answer::Cancel}) {
+    desktop.At_Wait([] {
+      Tone_File = "c:\\new.syx";
+      EXPECT_TRUE(Tone_Save());
+      Save_As_Written();
+      Unload(File_Dlg);
+    });
+    desktop.Expect_Box(answer, "File exists: c:\\new.syx Overwrite?");
+    Tone_SaveAs();
+    EXPECT_EQ(Tone[34], 7) << "the undo copy";
+    EXPECT_EQ(root.Get("new.syx")[7 + 34], 99) << "and not the undo copy";
+    Tone_Clear();
+    Undo_Restore();
+    Title_Mark();
+    EXPECT_EQ(Tone[34], 99);
+    EXPECT_EQ(Tone_File + MELVOR.caption(), "c:\\new.syxMELVOR - NEW.SYX");
+    EXPECT_TRUE(MELVOR.Menu_File_SYX_Save.enabled() && !MELVOR.modified() && Tone_Saved == Flag_True);
+    Tone_Undo.bytes.fill(7);
+  }
 }
 
 }  // namespace

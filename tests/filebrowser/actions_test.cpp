@@ -35,7 +35,7 @@ TEST_F(Actions_Test, Each_Kind_Does_Its_Own_With_Each_Action) {
            {"Open_SEQ", "P", "p.seq", "open, M, old tone, 127, old sequence", off},
            {"Open_OSC", "ODP", "x.osc", same, off},
            {"SaveAs_SYX", "OE", "New", "U, c:\\work\\new.syx, 5, old sequence", "dump U, " + off},
-           {"SaveAs_SYX", "D", "B.SYX", "U, c:\\work\\b.syx, 5, old sequence", off},
+           {"SaveAs_SYX", "D", "B.SYX", "M, c:\\work\\b.syx, 5, old sequence", off},
            {"SaveAs_SYX", "P", "a.syx", same, off},
            {"SaveAs_SEQ", "OE", "New", "M, old tone, 5, c:\\work\\new.seq", off},
            {"SaveAs_SEQ", "DP", "p.seq", same, off}}) {
@@ -84,7 +84,7 @@ TEST_F(Actions_Test, An_Existing_File_Is_Only_Overwritten_With_Consent) {
     EXPECT_EQ(root.Get("work/" + file), old_content);
     desktop.Expect_Box(Answer::Yes);
     Enter(file);
-    EXPECT_EQ(root.Get("work/" + file)[8], tone ? 'U' : '\5');
+    EXPECT_EQ(root.Get("work/" + file)[8], tone ? 'M' : '\5');
     EXPECT_EQ(root.Get("work/" + file + "~"), old_content);
     EXPECT_EQ(Is_Open(), !tone) << "the unsaved tone keeps the dialog open, though the sequence is written";
     Unload(File_Dlg);

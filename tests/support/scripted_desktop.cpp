@@ -58,6 +58,7 @@ void Scripted_Desktop::Wait_Events() {
     at_wait.pop_front();
     return step();
   }
+  if (on_other_wait) return on_other_wait();
   if (wake_us < 0) throw std::logic_error("the program waits for what will never come");
   Run_Timers_Until(wake_us);
 }

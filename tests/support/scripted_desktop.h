@@ -37,6 +37,8 @@ struct Scripted_Desktop final : Still_Desktop {
 
   // What the user does while the program waits (Dlg_Wait, previews): one step at each wait.
   void At_Wait(std::function<void()> step) { at_wait.push_back(std::move(step)); }
+  // What the user does at any other wait.
+  std::function<void()> on_other_wait;
 
   // Desktop
   Answer Message_Box(std::string_view text, int style, std::string_view title) override;
