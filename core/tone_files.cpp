@@ -1,6 +1,7 @@
 #include "core/tone_files.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "core/recent.h"
 #include "core/records.h"
@@ -56,7 +57,7 @@ struct Scan {
   Reader file;
   std::string head;  // grows behind a foreign message, and then matches nothing any more
   bool tone_at_start = false;
-  Byte_Record<Tone_Size> first_tone;  // once Tone_Found is set
+  std::optional<Sound> first;  // what a save would find there, once a further tone has been met
 };
 
 void Take_Head(Scan& scan) {
@@ -81,7 +82,6 @@ bool Take_Further_Tone(Load_Mode mode) {
 void Take_Tone(Scan& scan) {
   Byte_Record<Tone_Size> tone;
   for (int index = 0; index < Tone_Size; ++index) tone[index] = scan.file.Byte(scan.file.position + index);
-  if (Tone_Found == Flag_Off) scan.first_tone = tone;
   Tone = tone;
   scan.file.Step(Tone_Size);
   Tone_Found = Flag_On;
@@ -105,7 +105,10 @@ bool Take_Message(Scan& scan, Load_Mode mode) {
   Take_Head(scan);
   if (Has_Form(scan.head, Tone_Head_Form)) {
     scan.tone_at_start = scan.file.position == 1 + Head_Size;
-    if (Tone_Found == Flag_On && !Take_Further_Tone(mode)) return false;
+    if (Tone_Found == Flag_On) {
+      if (!scan.first) scan.first = Sound_Now();
+      if (!Take_Further_Tone(mode)) return false;
+    }
     Take_Tone(scan);
   } else if (Has_Form(scan.head, Patch_Head_Form) && scan.tone_at_start) {
     Take_Patch(scan, mode);
@@ -122,8 +125,9 @@ void Finish_Open(const Scan& scan, const std::string& path) {
   }
   Title_Show(path);
   Recent_Tone_Add(path);
+  // A Save As for a tone before may have written this very file.
+  if (!scan.first || !Same_Text(Tone_File, path)) Origin_Sound_Kept(scan.first.value_or(Sound_Now()));
   Tone_File = path;
-  Origin_Sound_Kept({scan.first_tone, Patch_Rec});  // a further tone is not what a save would find there
   Tone_Loading = Flag_Off;
   FD_Done = Flag_On;
 }

@@ -42,8 +42,10 @@ void Open_Recent_Tone() {
   const Sound sound = Sound_Now();
   const Tone_Origin origin = Origin_Now();
   Tone_Load(path, Load_Mode::Open);
-  // Nobody was asked about it.
-  if (origin.saved == Flag_False && Sound_Now() != sound) Undo_Keep(sound, origin);
+  if (origin.saved == Flag_True || Sound_Now() == sound) return;
+  // Nobody was asked about the sound before.
+  Undo_Keep(sound, origin);
+  Tone_Saved = Flag_False;
 }
 
 template <int place>
