@@ -45,8 +45,10 @@ struct MIDI_In_Caps {
   std::uint16_t product = 0;
   std::uint32_t driver_version = 0;
   std::array<char, Midi_Name_Size> name{};
-  std::uint32_t support = 0;
 };
+
+// Sizes as the queries give them. The published input record goes on with a support field after these bytes.
+static_assert(sizeof(MIDI_Out_Caps) == 52 && sizeof(MIDI_In_Caps) == 40);
 
 constexpr std::uint32_t Header_Done = 1;
 constexpr std::uint32_t Header_Prepared = 2;

@@ -24,13 +24,15 @@ constexpr int Semitones_In_Octave = 12;
 
 // The velocity of each note; 0: empty. Index = step * 13 + row, rows from the top.
 extern std::array<std::int16_t, Seq_Cell_Count> Seq_Data;
-extern int Seq_Speed;            // passes through all steps in a minute, [1, 120]
-extern int Seq_Base_Note;        // MIDI note of the bottom row, [0, 255]; 0 until a window or a file sets it
-extern int Seq_Range_Index;      // entry of the range list, [0, 4]; beyond it after a file with a higher base
-extern std::string Seq_Name;     // the file's path behind the sequence directory, for the caption
-extern std::string Seq_File;     // program path, empty for none
-extern std::uint8_t Seq_Loaded;  // Flag_On once a file was accepted, until Seq_Clear
-extern std::uint8_t Seq_Saved;   // Flag_Off: the matrix was edited
+extern int Seq_Speed;        // passes through all steps in a minute, [1, 120]
+extern int Seq_Base_Note;    // MIDI note of the bottom row, [0, 255]; 0 until a window or a file sets it
+extern int Seq_Range_Index;  // entry of the range list, [0, 4]; beyond it after a file with a higher base
+// The file's path after the sequence directory, for the caption. It begins with a backslash once the file
+// dialog has left the directory without one at its end.
+extern std::string Seq_Name;
+extern std::string Seq_File;      // program path, empty for none
+extern std::uint8_t Seq_Loaded;   // Flag_On once a file was accepted, until Seq_Clear
+extern std::uint8_t Seq_Saved;    // Flag_Off: the matrix was edited
 extern std::uint8_t Seq_Running;  // Flag_On while the clock should run
 
 // How the clock walks through the steps. The numbers are those of the window's buttons.

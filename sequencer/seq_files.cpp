@@ -34,11 +34,7 @@ constexpr std::size_t File_Size = Cells_Place + static_cast<std::size_t>(Seq_Cel
 constexpr int Preview_Pitch_px = 8;
 constexpr int Preview_Margin_px = 1;
 
-// The directory ends in a backslash as the settings give it, but not as the file dialog leaves it.
-void Name_From(const std::string& path) {
-  Seq_Name = Path_Behind(path, Dir_Sequences.size());
-  if (Seq_Name.starts_with('\\')) Seq_Name.erase(0, 1);
-}
+void Name_From(const std::string& path) { Seq_Name = Path_Behind(path, Dir_Sequences.size()); }
 
 bool Acceptable(const Byte_String& bytes) {
   return bytes.size() == File_Size &&
@@ -170,4 +166,7 @@ void Seq_SaveAs() {
   FD_Done = Flag_Off;
 }
 
-std::string Seq_Caption() { return Seq_Name.empty() ? "Sequencer" : "Sequencer - " + Upper(Seq_Name); }
+std::string Seq_Caption() {
+  if (Seq_Name.empty()) return "Sequencer";
+  return "Sequencer - " + Upper(Seq_Name.starts_with('\\') ? Seq_Name.substr(1) : Seq_Name);
+}

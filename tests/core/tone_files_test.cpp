@@ -192,7 +192,9 @@ TEST_F(Tone_Files, A_Command_That_Asks_Goes_On_Behind_A_Save_Only) {
 TEST_F(Tone_Files, A_Dialog_That_Does_Not_Open_Is_Told) {
   desktop.Expect_Box(Answer::Ok, "SaveAs Error 68 : Device unavailable");
   desktop.Expect_Box(Answer::Ok, "Wrong filename!");
-  for (const int number : {Error_Device_Unavailable, Error_Bad_File_Name, Error_Cancelled}) {
+  desktop.Expect_Box(Answer::Cancel, "File exists:  Overwrite?");  // what is missing ends its own step alone
+  for (const int number :
+       {Error_Device_Unavailable, Error_Bad_File_Name, Error_Cancelled, Error_File_Not_Found}) {
     File_Dlg.on_load = [number] { throw Runtime_Error(number); };
     Tone_SaveAs();
     File_Dlg.on_unload = nullptr;

@@ -84,12 +84,7 @@ struct Save_Row {
 };
 
 const Save_Row Saves[] = {
-    {"tone",
-     [] {
-       Tone_Save();
-       return Tone_Saved == Flag_True;
-     },
-     "wfrfwwfrf"},
+    {"tone", Tone_Save, "wfrfwwfrf"},
     {"sequence", [] { return Raised(Seq_Save) == 0; }, "wfrfwwfrf"},
     {"settings", [] { return Write_Profile_String("MIDI", "Channel", "5", INI_File); }, "wfrf"}};
 
@@ -97,7 +92,7 @@ using Files = std::map<std::string, std::string>;
 
 struct Killed_Save : Sequencer_Test {
   Killed_Save() {
-    desktop.on_other_box = [] { return Answer::Ok; };
+    desktop.on_other_box = [this] { return desktop.Last_Box().ends_with("?") ? Answer::Yes : Answer::Ok; };
     Tone_File = Seq_File = INI_File = "C:\\FILE";  // what is there keeps its own spelling
   }
   ~Killed_Save() override { INI_File.clear(); }
