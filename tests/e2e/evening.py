@@ -107,16 +107,59 @@ class Evening:
         self.press("Stop sequencer")
         self.wire.take_to(All_notes_off)
 
-    def save(self):
+    def save_as(self, name):
         self.screen.key("alt+f", "t", "a")
+        self.type_name(name)
+
+    def type_name(self, name):
         self.go_to("File name")
-        self.screen.type("first")
+        self.screen.key("ctrl+a")
+        self.screen.type(name)
         self.screen.key("Return")
+
+    def save(self):
+        self.save_as("first")
         # The dialog has written the file; the command behind it asks about it once more.
         self.answer("File exists: c:\\first.syx Overwrite?", "Cancel", "Return")
         self.screen.focus(left="Cancel")
-        file = self.session.machine.home / "first.syx"
-        assert file.read_bytes() == tone_file(self.record, self.patch)
+        assert self.file("first").read_bytes() == tone_file(self.record, self.patch)
+
+    def save_under_another_name(self):
+        """The first name is declined. The sound is in the second file, and by Undo in the editor, with its file."""
+        before = tone_file(self.record, self.patch)
+        self.screen.click(Cutoff)
+        self.screen.key("End")
+        self.record[34] = 0
+        self.save_as("first")
+        self.answer("File exists: c:\\first.syx Overwrite?", "No", "Return")
+        self.type_name("second")
+        self.answer("File exists: c:\\second.syx Overwrite?", "Cancel", "Return")
+        self.screen.focus(left="Cancel")
+        assert self.file("first").read_bytes() == before
+        assert self.file("second").read_bytes() == tone_file(self.record, self.patch)
+        self.screen.wait_for_title("MELVOR - SECOND.SYX*")
+        self.wire.skip()
+        self.screen.key("ctrl+z")
+        self.wire.expect(dump(self.record, self.patch))
+        self.screen.wait_for_title("MELVOR - SECOND.SYX")
+
+    def keep_a_bank(self):
+        """Save would write over the head of its second tone: it asks, and Enter says No."""
+        bank = b"".join(tone_file(empty_record(name))[:67] for name in ("ONE", "TWO"))
+        self.file("bank").write_bytes(bank)
+        self.screen.key("ctrl+o")
+        self.type_name("bank")
+        self.answer("File contains another TONE. Save old TONE first?", "Yes", "alt+n")
+        wait_until(lambda: self.screen.text("Tone name") == "TWO", "the second tone")
+        self.screen.wait_for_end_of("File name")
+        self.screen.key("ctrl+s")
+        self.answer('File contains another TONE: c:\\bank.syx', "No", "Return")
+        self.screen.focus(left="No")
+        assert self.file("bank").read_bytes() == bank
+        self.screen.wait_for_title("MELVOR - C:\\BANK.SYX*")
+
+    def file(self, name):
+        return self.session.machine.home / f"{name}.syx"
 
     def help(self):
         for keys, what in ((["F1"], "Topics"), (["alt+h", "h"], "Examples of the control elements"),
@@ -141,7 +184,7 @@ def next_day(session, evening):
     assert (kept["MIDI"]["Output"], kept["MIDI"]["Input"]) == ("synth:in", "synth:out"), kept["MIDI"]
     session.start()
     session.wire.skip()
-    session.screen.menu("File", "Tone", f"1 {kept['Recent Files']['Tone1'].upper()}")
+    session.screen.menu("File", "Tone", f"2 {kept['Recent Files']['Tone2'].upper()}")
     session.wire.expect(dump(evening.record), dump(evening.record, evening.patch))
     assert session.interrupt() == 0
 
@@ -155,7 +198,8 @@ def main():
         session.start(wait_for_panel=False)
         evening = Evening(session)
         for act in (evening.set_up, evening.edit, evening.name, evening.patch_window, evening.random_and_undo,
-                    evening.oscillator, evening.sequencer, evening.save, evening.help, evening.close):
+                    evening.oscillator, evening.sequencer, evening.save, evening.save_under_another_name,
+                    evening.keep_a_bank, evening.help, evening.close):
             act()
         next_day(session, evening)
 

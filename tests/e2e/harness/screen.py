@@ -116,6 +116,12 @@ class Screen:
         """Left, top, width and height of the main window."""
         return _extents(wait_until(lambda: self._find(lambda node: node.get_role() == Atspi.Role.FRAME), "the frame"))
 
+    def wait_for_title(self, title):
+        """Of the main window, as the window manager shows it: "*" is the toolkit's mark of a change."""
+        def look():
+            return (self._machine.run("xdotool", "getactivewindow", "getwindowname") or "").strip() == title
+        wait_until(look, f'the title "{title}"')
+
     def number(self, name):
         """The value of a scroll bar."""
         return round(Atspi.Value.get_current_value(self.element(name)))
