@@ -3,7 +3,7 @@
 from alphabets import Narrow
 from faces import Direction
 from lettering import Write, Write_Centred, Write_Right
-from palette import Bar_Dco, Bar_Env, Bar_Lfo, Bar_Vcf, Ivory, Letter, Scale
+from palette import Bar_Dco, Bar_Env, Bar_Lfo, Bar_Vcf, Ivory, Letter
 from panel import (Box, Draw_Display, Draw_Figures, Draw_Knob, Draw_Plate, Draw_Recess, Draw_Section, Draw_Slider,
                    Draw_Switch, New_Panel)
 from places import (Black_Keys, Cell, Direction_Places, Help_Knob, Help_Slider, Help_Switches, Keys_Left,
@@ -26,7 +26,7 @@ def Oscillator_Background():
         Write_Centred(picture, title, left + 7.5, 8, Letter, Narrow)
         Draw_Recess(picture, left, 22, 15, 100)
         Draw_Recess(picture, left - 2, 128, 19, 13)
-    Write_Centred(picture, "MS", 73.5, 147, Scale)
+    Write_Centred(picture, "MS", 73.5, 147, Letter, Narrow)
     Draw_Display(picture, 98, 5, 130, 130)
     for left, title, edge in ((133, "START", 129), (163, "STOP", 189)):
         Draw_Recess(picture, left, 138, 22, 22)
