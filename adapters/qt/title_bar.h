@@ -8,7 +8,7 @@ class QStyleOption;
 class QStyleOptionTitleBar;
 class QWidget;
 
-// The style tells where icon, text and close button are.
+// The style gives the places of icon, text and close button.
 void Paint_Title_Bar(const QStyle& style, const QStyleOptionTitleBar& bar, QPainter& painter,
                      const QWidget* widget);
 

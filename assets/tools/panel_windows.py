@@ -13,7 +13,7 @@ from waves import Draw_Wave
 
 
 # The oscillator's sections: left, right, colour. The curve fills its section to the top, so an edge stands for the bar.
-Oscillator_Sections = ((2, 90, Bar_Lfo), (93, 229, Bar_Dco), (232, 384, Bar_Vcf))
+Oscillator_Sections = ((2, 94, Bar_Lfo), (96, 230, Bar_Dco), (232, 384, Bar_Vcf))
 Oscillator_Edge = 2
 
 
