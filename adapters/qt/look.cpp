@@ -10,18 +10,14 @@
 #include <QStyleOption>
 #include <QWidget>
 
+#include "adapters/qt/panel_colors.h"
+#include "adapters/qt/title_bar.h"
+
 namespace {
 
 constexpr int Style_Cache_kB = 1024;
 constexpr int Smallest_Text_px = 8;
 constexpr int Display_Margin_px = 1;  // beside the digits, on each side
-
-constexpr QColor Panel_Plate(0x28, 0x2c, 0x30);
-constexpr QColor Panel_Well(0x14, 0x17, 0x1a);
-constexpr QColor Panel_Button(0x3e, 0x44, 0x4a);
-constexpr QColor Panel_Letter(0xe4, 0xe8, 0xec);
-constexpr QColor Panel_Faint_Letter(0x7d, 0x85, 0x8c);
-constexpr QColor Panel_Chosen(0x1c, 0x7d, 0x8a);
 
 int Half_Way(int from, int to) { return (from + to) / 2; }
 
@@ -42,11 +38,19 @@ void Set_Faint_Lettering() {
 
 // Message boxes have the same plain buttons as the program's own windows, and an empty check box can be seen
 // on every desktop: the toolkit's own edge is darker than the ground, which on a dark one leaves nothing.
+// Windows inside the frame are square and dark. A text field leaves its focus to the program's own frame.
 struct Plain_Style final : QProxyStyle {
   Plain_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
+    if (element == PE_FrameWindow) return Paint_Window_Edge(*option, *painter);
+    if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+        element == PE_FrameLineEdit && frame != nullptr) {
+      QStyleOptionFrame at_rest = *frame;
+      at_rest.state.setFlag(State_HasFocus, false);
+      return QProxyStyle::drawPrimitive(element, &at_rest, painter, widget);
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element != PE_IndicatorCheckBox) return;
     painter->save();
@@ -56,9 +60,18 @@ struct Plain_Style final : QProxyStyle {
     painter->restore();
   }
 
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+        control == CC_TitleBar && bar != nullptr) {
+      return Paint_Title_Bar(*this, *bar, *painter, widget);
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
+
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* more) const override {
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_WindowFrame_Mask) return 0;
     return QProxyStyle::styleHint(hint, option, widget, more);
   }
 };

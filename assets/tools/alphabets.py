@@ -50,9 +50,6 @@ Regular = {
     " ": (2, ""),
 }
 
-# Letters drawn twice, a pixel apart, need wider insides.
-Heavy = {**Regular, "M": (7, "06 00 33 60 66"), "N": (6, "06 00 55 56 50"), "W": (7, "00 05 16 34 56 65 60")}
-
 # Seven rows, three columns for most letters; position legends, where room is short.
 Narrow = {
     "A": (3, "06 02 10 22 26,04 24"),
@@ -91,7 +88,7 @@ Narrow = {
     "+": (3, "03 23,12 14"),
     "/": (3, "06 05 21 20"),
     "'": (1, "00 01"),
-    " ": (1, ""),
+    " ": (2, ""),
 }
 
 # Five rows; the figures on scales.

@@ -138,7 +138,7 @@ def Direction(index):
     else:
         Write(picture, "R1" if index == 8 else "R2", 0, 2, Letter)
         after = index == 9  # the turn comes at the end only
-        _Arrow(picture, 12 - after, 23 - 2 * after, 5, True, True)
+        _Arrow(picture, 12, 23 - 2 * after, 5, True, True)
         if after:
             picture.Rect(22, 1, 1, 9, Letter)
     return picture

@@ -1,6 +1,6 @@
 """Letters as strokes, so that no picture asks for an installed font."""
 
-from alphabets import Heavy, Regular
+from alphabets import Regular
 from svg import Number
 
 
@@ -36,13 +36,6 @@ def Text_Path(text, left, top, alphabet=Regular, spacing=1, scale=1):
 def Write(picture, text, left, top, color, alphabet=Regular, spacing=1):
     """Writes text with its top left corner at a whole pixel."""
     picture.Stroke(Text_Path(text, left, top, alphabet, spacing), color)
-
-
-def Write_Heavy(picture, text, left, top, room, color, middle):
-    """The lettering of section bars: a stroke of more than a pixel, spaced wider where there is room for it."""
-    spacing = 2 if Text_Width(text, Heavy, 2) + 6 <= room else 1
-    start = left + (room - Text_Width(text, Heavy, spacing)) // 2 if middle else left + 5
-    picture.Stroke(Text_Path(text, start, top, Heavy, spacing), color, 1.55)
 
 
 def Write_Centred(picture, text, middle, top, color, alphabet=Regular, spacing=1):

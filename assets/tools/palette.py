@@ -10,7 +10,7 @@ Legend = "#c3c9cf"
 Scale = "#9aa1a8"
 Scale_Faint = "#6d747b"
 Bar_Letter = "#14171a"
-Display = "#050707"
+Display = "#000000"  # as the fields in it: at no scaling a seam shows
 Ivory = "#e9e6dc"
 
 Bar_Dco = "#4fb4c0"

@@ -3,7 +3,7 @@
 import math
 
 from alphabets import Narrow, Regular, Symbols, Tiny
-from lettering import Text_Path, Text_Width, Write, Write_Centred, Write_Heavy, Write_Right
+from lettering import Text_Path, Text_Width, Write, Write_Centred, Write_Right
 from palette import (Bar_Letter, Display, Legend, Letter, Panel, Plate, Plate_Edge, Scale, Scale_Faint, Slot,
                      Slot_Light)
 from places import Cap_Axis, Knob_Middle
@@ -31,16 +31,17 @@ def Box(x0, y0, x1, y1):
     return [(x0, y0), (x1, y0), (x1, y1), (x0, y1)]
 
 
-def Draw_Bar(picture, left, right, top, color, title, middle=False):
+def Draw_Bar(picture, left, right, top, color, title):
+    """A section's bar. Its title is a pixel thick, as any other stroke would be blurred at natural size."""
     picture.Rect(left, top, right - left, Bar_Height, color)
     picture.Rect(left, top, right - left, 1, "#ffffff", opacity=0.25)
     picture.Rect(left, top + Bar_Height - 1, right - left, 1, "#000000", opacity=0.3)
-    Write_Heavy(picture, title, left, top + 2, right - left, Bar_Letter, middle)
+    Write_Centred(picture, title, (left + right) / 2, top + 2, Bar_Letter)
 
 
-def Draw_Section(picture, left, right, top, bottom, color, title, middle=False):
+def Draw_Section(picture, left, right, top, bottom, color, title):
     Draw_Plate(picture, Box(left, top, right, bottom))
-    Draw_Bar(picture, left, right, top, color, title, middle)
+    Draw_Bar(picture, left, right, top, color, title)
 
 
 def Draw_Slot(picture, left, high, low):
@@ -115,8 +116,8 @@ def Draw_Knob(picture, knob):
     low, high = knob.ends
     alphabet = Tiny if low[-1].isdigit() else Narrow
     down = y + 11 if alphabet is Tiny else y + 10
-    Write_Right(picture, low, x - 10, down, Scale, alphabet)
-    Write(picture, high, x + 11, down, Scale, alphabet)
+    Write_Right(picture, low, x - 9, down, Scale, alphabet)
+    Write(picture, high, x + 9, down, Scale, alphabet)
     if knob.title:
         Write_Centred(picture, knob.title, x, knob.top - 12, Letter)
 

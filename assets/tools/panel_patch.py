@@ -12,22 +12,22 @@ from places import (Mks70_Knobs, Mks70_Lights, Mks70_Sliders, Mks70_Switches, Pa
 # Left, right, top, bottom, colour, title.
 Patch_Sections = (
     (2, 74, 2, 167, Bar_Dco, "PORTAMENTO"),
-    (77, 145, 2, 167, Bar_Lfo, "BENDER"),
-    (148, 215, 2, 109, Bar_Vcf, "KEY MODE"),
-    (148, 215, 112, 167, Bar_Mixer, "DETUNE"),
-    (218, 286, 2, 167, Bar_Env, "AFTER TOUCH"),
+    (77, 142, 2, 167, Bar_Lfo, "BENDER"),
+    (145, 216, 2, 109, Bar_Vcf, "KEY MODE"),
+    (145, 216, 112, 167, Bar_Mixer, "UNISON DETUNE"),
+    (219, 286, 2, 167, Bar_Env, "AFTER TOUCH"),
 )
 
 Mks70_Sections = (
-    (0, 67, 2, 120, Bar_Vcf, "KEY MODE"),
-    (70, 130, 2, 120, Bar_Mixer, "TONE A/B"),
-    (133, 258, 2, 125, Bar_Env, "AFTER TOUCH"),
-    (0, 130, 123, 257, Bar_Chorus, "CHASE"),
-    (133, 203, 128, 257, Bar_Dco, "PORTAMENTO"),
-    (206, 258, 128, 257, Bar_Lfo, "BENDER"),
-    (261, 332, 128, 257, Bar_Vca, "VOLUME"),
+    (0, 64, 2, 122, Bar_Vcf, "KEY MODE"),
+    (67, 130, 2, 122, Bar_Mixer, "TONE A/B"),
+    (133, 258, 2, 122, Bar_Env, "AFTER TOUCH"),
+    (0, 130, 125, 257, Bar_Chorus, "CHASE"),
+    (133, 203, 125, 257, Bar_Dco, "PORTAMENTO"),
+    (206, 258, 125, 257, Bar_Lfo, "BENDER"),
+    (261, 332, 125, 257, Bar_Vca, "VOLUME"),
     (0, 332, 260, 302, Bar_Plain, "PATCH"),
-    (0, 202, 305, 419, Bar_Dco, "TONE"),
+    (0, 201, 305, 419, Bar_Dco, "TONE"),
     (203, 248, 305, 419, Bar_Lfo, "LFO"),
     (251, 332, 305, 419, Bar_Vcf, "KEY ASSIGN"),
 )
@@ -49,7 +49,7 @@ def _Draw_Elements(picture, sliders, switches, knobs, lights, figures):
 def Patch_Background():
     picture = New_Panel(288, 169)
     for section in Patch_Sections:
-        Draw_Section(picture, *section, middle=True)
+        Draw_Section(picture, *section)
     _Draw_Elements(picture, Patch_Sliders, Patch_Switches, Patch_Knobs, Patch_Lights, ((0, 46), (1, 112)))
     Draw_Mark(picture, "JX-8P", 252, 110)
     return picture
@@ -58,7 +58,7 @@ def Patch_Background():
 def Mks70_Background():
     picture = New_Panel(332, 421)
     for section in Mks70_Sections:
-        Draw_Section(picture, *section, middle=section[1] - section[0] < 80)
+        Draw_Section(picture, *section)
     _Draw_Elements(picture, Mks70_Sliders, Mks70_Switches, Mks70_Knobs, Mks70_Lights,
                    ((0, 191), (1, 35), (3, 237), (4, 302), (5, 170), (6, 209)))
     for left, word in ((143, "VIBRATO"), (182, "BRILLIANCE"), (221, "VOLUME")):

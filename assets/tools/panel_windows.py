@@ -3,7 +3,7 @@
 from alphabets import Narrow
 from faces import Direction
 from lettering import Write, Write_Centred, Write_Right
-from palette import Bar_Dco, Bar_Env, Bar_Lfo, Bar_Vcf, Ivory, Letter, Scale
+from palette import Bar_Dco, Bar_Env, Bar_Lfo, Bar_Vcf, Ivory, Letter
 from panel import (Box, Draw_Display, Draw_Figures, Draw_Knob, Draw_Plate, Draw_Recess, Draw_Section, Draw_Slider,
                    Draw_Switch, New_Panel)
 from places import (Black_Keys, Cell, Direction_Places, Help_Knob, Help_Slider, Help_Switches, Keys_Left,
@@ -13,7 +13,7 @@ from waves import Draw_Wave
 
 
 # The oscillator's sections: left, right, colour. The curve fills its section to the top, so an edge stands for the bar.
-Oscillator_Sections = ((2, 90, Bar_Lfo), (93, 229, Bar_Dco), (232, 384, Bar_Vcf))
+Oscillator_Sections = ((2, 94, Bar_Lfo), (96, 230, Bar_Dco), (232, 384, Bar_Vcf))
 Oscillator_Edge = 2
 
 
@@ -26,7 +26,7 @@ def Oscillator_Background():
         Write_Centred(picture, title, left + 7.5, 8, Letter, Narrow)
         Draw_Recess(picture, left, 22, 15, 100)
         Draw_Recess(picture, left - 2, 128, 19, 13)
-    Write_Centred(picture, "MS", 73.5, 147, Scale)
+    Write_Centred(picture, "MS", 73.5, 147, Letter, Narrow)
     Draw_Display(picture, 98, 5, 130, 130)
     for left, title, edge in ((133, "START", 129), (163, "STOP", 189)):
         Draw_Recess(picture, left, 138, 22, 22)

@@ -9,8 +9,8 @@ from collections import namedtuple
 Cap_Axis = 7
 Knob_Middle = (14, 12)  # the dot circles about this point of the 28 x 26 body
 
-# high and low are the Tops at the highest and the lowest value. names: position legends, lowest value first; side:
-# where they stand, by the cap's lamp.
+# high and low are the Tops at the highest and the lowest value. names: position legends, lowest value first. side: the
+# legends' side, that of the cap's lamp except for VCA mode, which has no room there.
 Slider = namedtuple("Slider", "left high low title")
 Switch = namedtuple("Switch", "left high low side names title")
 Knob = namedtuple("Knob", "left top ends degrees title")  # ends: figures at the ends of the turn; degrees: half turn
@@ -30,7 +30,7 @@ Editor_Sliders = (
     Slider(399, 32, 112, "FREQ"), Slider(438, 32, 112, "RES"),
     Slider(360, 152, 232, "LFO"), Slider(399, 152, 232, "ENV"), Slider(438, 152, 232, "KEY"),
     Slider(489, 32, 112, "LEVEL"),
-    Slider(45, 357, 437, "DELAY TIME"), Slider(84, 357, 437, "RATE"),
+    Slider(45, 357, 437, ""), Slider(84, 357, 437, ""),
     Slider(135, 357, 437, "A"), Slider(165, 357, 437, "D"), Slider(195, 357, 437, "S"), Slider(225, 357, 437, "R"),
     Slider(315, 357, 437, "A"), Slider(345, 357, 437, "D"), Slider(375, 357, 437, "S"), Slider(405, 357, 437, "R"),
 )
@@ -48,8 +48,8 @@ Editor_Switches = (
     Switch(488, 398, 418, "right", ("OFF", "1", "2"), "MODE"),
     Switch(18, 377, 397, "left", ("~random", "~square", "~triangle"), ""),
     Switch(265, 388, 418, "right", Dynamics, ""), Switch(445, 388, 418, "right", Dynamics, ""),
+    Switch(489, 152, 162, "left", ("GATE", "ENV-2"), "MODE"),
 )
-Editor_Vca_Mode = Switch(489, 152, 162, "right", ("", ""), "")
 
 Editor_Knobs = (
     Knob(32, 102, Semitones, 144, "TUNE"), Knob(122, 102, Semitones, 144, "TUNE"),

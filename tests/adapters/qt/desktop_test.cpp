@@ -82,6 +82,26 @@ TEST_F(Desk, A_Window_Beyond_The_Edges_Comes_Into_Sight) {
   }
 }
 
+TEST_F(Desk, Title_Bars_Are_Dark_And_A_Text_Field_Has_One_Focus_Frame) {
+  constexpr QPoint in_bar(60, 4);
+  constexpr QPoint on_edge(0, 10);
+  Form other{Form_Role::Child, "OTHER"};
+  for (auto* side : {&other.left, &other.width, &other.height}) *side = 100 * 15;
+  Show_Windows();
+  QWidget& window = *Widget("PANEL").parentWidget();
+  const QColor active = window.grab().toImage().pixelColor(in_bar);
+  const QColor at_rest = Widget("Text").grab().toImage().pixelColor(on_edge);
+  Press(Widget("Text"), {20, 10});
+  Await([&] { return Widget("Text").hasFocus(); });
+  EXPECT_EQ(Widget("Text").grab().toImage().pixelColor(on_edge), at_rest);
+  Show(other);
+  const QColor inactive = window.grab().toImage().pixelColor(in_bar);
+  EXPECT_LT(active.lightness(), 96);
+  EXPECT_LT(inactive.lightness(), 96);
+  EXPECT_NE(active, inactive);
+  Unload(other);
+}
+
 TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
   Show_Windows();
   for (const auto& [style, pressed, answer, escaped] :
