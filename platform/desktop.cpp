@@ -1,5 +1,6 @@
 #include "platform/desktop.h"
 
+#include <algorithm>
 #include <string>
 
 #include "platform/dispatch.h"
@@ -41,6 +42,6 @@ int Wait_Events() {
   return Open_Windows();
 }
 
-int Twips_Per_Pixel() { return Twips_Per_Inch / The_Desktop().Pixels_Per_Inch(); }
+int Twips_Per_Pixel() { return std::max(Twips_Per_Inch / std::max(The_Desktop().Pixels_Per_Inch(), 1), 1); }
 
 void Beep() { The_Desktop().Beep(); }

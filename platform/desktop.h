@@ -108,7 +108,8 @@ int Do_All_Events();
 // Sleeps until something happened, and lets it run. Returns how many windows are open.
 int Wait_Events();
 
-// A pixel of the screen in twips: 15 at 96 pixels per inch, 12 at 120.
+// A pixel of the screen in twips: 15 at 96 pixels per inch, 12 at 120; at least 1 at a density that the
+// program is about to refuse.
 int Twips_Per_Pixel();
 
 void Beep();

@@ -8,7 +8,7 @@
 #include "platform/form.h"
 #include "windows/control_row.h"
 
-constexpr int Help_Width_px = 520;
+constexpr int Help_Width_px = 490;
 constexpr int Help_Height_px = 330;
 constexpr int Help_Lights = 4;
 

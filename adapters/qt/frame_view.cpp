@@ -4,10 +4,13 @@
 #include <QGuiApplication>
 #include <QMdiSubWindow>
 #include <QPainter>
+#include <QRegion>
 #include <QScreen>
 #include <QScrollBar>
 #include <QWindow>
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 #include "adapters/qt/control_view.h"
 #include "adapters/qt/look.h"
@@ -76,20 +79,43 @@ void Frame_Window::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange && on_placed) on_placed();
 }
 
+// The size of the decorations may change without an event of its own, so each repaint looks at it.
+bool Frame_Window::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Expose) was_seen = was_seen || windowHandle()->isExposed();
+  const bool looks = event->type() == QEvent::Expose || event->type() == QEvent::UpdateRequest;
+  if (looks && on_placed) on_placed();
+  return QMainWindow::eventFilter(watched, event);
+}
+
 namespace {
 
-constexpr QSize Least_Title(80, 16);
+int Area(const QRect& rect) { return rect.isEmpty() ? 0 : rect.width() * rect.height(); }
 
-// The place, or the first screen's corner if too little of the title bar could be taken hold of: the screen
-// that it was on may have gone.
-QRect On_A_Screen(const QRect& outside) {
-  const QRect title(outside.topLeft(), QSize(outside.width(), Least_Title.height()));
-  const auto shows = [&title](const QScreen* screen) {
-    const QSize seen = screen->availableGeometry().intersected(title).size();
-    return seen.expandedTo(Least_Title) == seen;
-  };
-  if (std::ranges::any_of(QGuiApplication::screens(), shows)) return outside;
-  return {QGuiApplication::primaryScreen()->availableGeometry().topLeft(), outside.size()};
+// The place if the screens show all of it, else the nearest one on a single screen, no larger than that: the
+// screen that it was on may be gone.
+QRect On_Screens(const QRect& outside) {
+  QRegion shown;
+  QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    const QRect one = screen->availableGeometry();
+    shown += one;
+    if (Area(one.intersected(outside)) > Area(room.intersected(outside))) room = one;
+  }
+  if (QRegion(outside).subtracted(shown).isEmpty()) return outside;
+  QRect whole(outside.topLeft(), outside.size().boundedTo(room.size()));
+  whole.moveRight(std::min(whole.right(), room.right()));
+  whole.moveBottom(std::min(whole.bottom(), room.bottom()));
+  whole.moveTopLeft({std::max(whole.left(), room.left()), std::max(whole.top(), room.top())});
+  return whole;
+}
+
+// Whether a scaled screen, whose pixels are finer than the form's, rounds one place to the other.
+bool Rounds_To(const QRect& place, const QRect& other, qreal scale) {
+  const int most = scale == 1 ? 0 : 1;
+  const QPoint corners = place.topLeft() - other.topLeft();
+  const QSize sizes = place.size() - other.size();
+  const auto near = [most](int difference) { return std::abs(difference) <= most; };
+  return near(corners.x()) && near(corners.y()) && near(sizes.width()) && near(sizes.height());
 }
 
 }  // namespace
@@ -117,17 +143,24 @@ void Frame_View::Show_Window() {
   for (const Form* child : Loaded_Children()) {
     if (Form_View* view = shell.View_Of(*child)) view->Show_Pointer();
   }
-  Show_State();
+  // A window that is not up yet can be maximized, but not minimized.
+  if (!window_->isHidden() || form.state() != Window_State::Minimized) Show_State();
   if (const QRect wanted = Wanted_Place(); wanted != placed_) Place(wanted);
-  if (window_->isHidden() == form.visible()) window_->setVisible(form.visible());
+  if (window_->isHidden() != form.visible()) return;
+  window_->winId();
+  window_->windowHandle()->installEventFilter(window_);
+  window_->setVisible(form.visible());
+  Show_State();
 }
 
 void Frame_View::Show_State() {
-  constexpr Qt::WindowStates ours = Qt::WindowMaximized | Qt::WindowMinimized;
-  Qt::WindowStates wanted = window_->windowState() & ~ours;
-  if (form.state() == Window_State::Maximized) wanted |= Qt::WindowMaximized;
-  if (form.state() == Window_State::Minimized) wanted |= Qt::WindowMinimized;
-  if (window_->windowState() != wanted) window_->setWindowState(wanted);
+  if (form.state() == shown_state_) return;
+  shown_state_ = form.state();
+  Qt::WindowStates wanted = window_->windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized);
+  if (shown_state_ == Window_State::Maximized) wanted |= Qt::WindowMaximized;
+  if (shown_state_ == Window_State::Minimized) wanted |= Qt::WindowMinimized;
+  awaits_minimized_ = shown_state_ == Window_State::Minimized;
+  window_->setWindowState(wanted);
 }
 
 QMargins Frame_View::Decorations() const {
@@ -135,28 +168,45 @@ QMargins Frame_View::Decorations() const {
 }
 
 void Frame_View::Place(const QRect& wanted) {
-  const QRect outside = On_A_Screen(wanted);
+  const QRect outside = On_Screens(wanted);
   placed_ = wanted;
-  asked_blindly_ = Decorations().isNull();
+  asked_with_ = Decorations();
+  if (!asked_with_.isNull()) return window_->setGeometry(outside.marginsRemoved(asked_with_));
   window_->move(outside.topLeft());
-  window_->resize(outside.size().shrunkBy(Decorations()));
+  window_->resize(outside.size());
 }
 
-// The window manager tells the size of its decorations only after the window has come up: then the place that
-// was asked for is asked for again, so that the whole window has the size that the form says.
+// The native window's place, which changes as a whole: the toolkit reports corner and size one after the
+// other.
+QRect Frame_View::Outside() const { return window_->windowHandle()->geometry().marginsAdded(Decorations()); }
+
 void Frame_View::Window_Placed() {
-  if (!window_->isVisible() || shell.changes.Applying()) return;
+  if (!window_->was_seen || !window_->isVisible() || shell.changes.Applying()) return;
   const Qt::WindowStates states = window_->windowState();
-  if (states.testFlag(Qt::WindowMinimized)) {
-    form.state = Window_State::Minimized;
-    return;
-  }
-  form.state = states.testFlag(Qt::WindowMaximized) ? Window_State::Maximized : Window_State::Normal;
-  if (asked_blindly_ && !Decorations().isNull()) {
-    asked_blindly_ = false;
-    if (form.state() == Window_State::Normal) return Place(placed_);
-  }
-  placed_ = window_->geometry().marginsAdded(Decorations());
+  const bool maximized = states.testFlag(Qt::WindowMaximized);
+  shown_state_ = states.testFlag(Qt::WindowMinimized) ? Window_State::Minimized
+                 : maximized                          ? Window_State::Maximized
+                                                      : Window_State::Normal;
+  form.state = shown_state_;
+  if (shown_state_ == Window_State::Normal) return Normal_Window_Placed();
+  if (was_normal_) may_ask_again_ = false;
+  awaits_minimized_ = false;
+  // The size of a maximized window may be reported before its state.
+  if (maximized && placed_ == Outside() && !placed_before_.isNull()) Take_Place(placed_before_);
+}
+
+// The window manager reports the size of its decorations only after the window has come up, and another one
+// for a maximized window: then the place that was asked for is asked for again, so that the whole window has
+// the size that the form says.
+void Frame_View::Normal_Window_Placed() {
+  if (awaits_minimized_) return;  // a request for a place would bring the window up again
+  was_normal_ = true;
+  if (may_ask_again_ && Decorations() != asked_with_) return Place(placed_);
+  if (!Rounds_To(Outside(), placed_, window_->devicePixelRatioF())) Take_Place(Outside());
+}
+
+void Frame_View::Take_Place(const QRect& place) {
+  placed_before_ = std::exchange(placed_, place);
   Report_Place(placed_);
 }
 

@@ -15,18 +15,22 @@ struct Buttons_Row {
   int style;
   QMessageBox::StandardButtons buttons;
   QMessageBox::StandardButton first;  // Enter answers this
+  // In a box with a stop sign. A question there is whether to overwrite: the Enter that saved must not say
+  // yes.
+  QMessageBox::StandardButton first_at_stop;
   QMessageBox::StandardButton
       escape;       // Escape and the close box answer this, where they may, and the program's end
   bool may_escape;  // No is an answer that costs: it must be said
 };
 
 const std::array Buttons_Rows{
-    Buttons_Row{Box_Ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, true},
+    Buttons_Row{Box_Ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, true},
     Buttons_Row{Box_Yes_No_Cancel, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
-                QMessageBox::Cancel, true},
-    Buttons_Row{Box_Yes_No, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No, false},
+                QMessageBox::Cancel, QMessageBox::Cancel, true},
+    Buttons_Row{Box_Yes_No, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No,
+                QMessageBox::No, false},
     Buttons_Row{Box_Retry_Cancel, QMessageBox::Retry | QMessageBox::Cancel, QMessageBox::Retry,
-                QMessageBox::Cancel, true},
+                QMessageBox::Retry, QMessageBox::Cancel, true},
 };
 
 const Buttons_Row& Row_Of(int style) {
@@ -91,9 +95,7 @@ Answer Ask(std::string_view text, int style, std::string_view title, QWidget* ov
   box.setWindowTitle(To_Qt(title));
   box.setIcon(Icon_Of(style));
   box.setStandardButtons(row.buttons);
-  // A question behind a stop sign is whether to overwrite: the Enter that saved must not answer it too.
-  const bool stops = (style & Box_Icon_Mask) == Box_Stop && (row.buttons & QMessageBox::Cancel) != 0;
-  box.setDefaultButton(stops ? QMessageBox::Cancel : row.first);
+  box.setDefaultButton((style & Box_Icon_Mask) == Box_Stop ? row.first_at_stop : row.first);
   box.setEscapeButton(row.escape);
   const int button = box.exec();
   return button == 0 || button == -1 ? Answer_Of(row.escape) : Answer_Of(button);

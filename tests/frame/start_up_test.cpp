@@ -38,6 +38,16 @@ TEST_F(Frame, Without_Any_Device_The_Program_Runs_On_Its_Own) {
   EXPECT_EQ(Tone[11], 127);
 }
 
+TEST_F(Frame, A_Density_That_No_Panel_Is_Drawn_For_Ends_The_Start_With_A_Box) {
+  for (const int density : {0, 144, 1500}) {
+    desktop.quit = false;
+    desktop.pixels_per_inch = density;
+    desktop.on_other_box = [] { return Answer::Ok; };
+    EXPECT_FALSE(Start());
+    EXPECT_TRUE(desktop.Last_Box().starts_with("Unsupported system font size: " + std::to_string(density)));
+  }
+}
+
 TEST_F(Frame, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
   const std::string preload = std::string(Configured) + "Sequence Preload=1\n";
   root.Put("a.seq", "SEQ1" + Bytes_Of("3C 30 7F") + std::string(103, '\0'));

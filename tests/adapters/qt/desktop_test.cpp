@@ -107,7 +107,7 @@ TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
   for (const auto& [style, pressed, answer, escaped] :
        {std::tuple{Box_Ok, QMessageBox::Ok, Answer::Ok, Answer::Ok},
         {Box_Yes_No_Cancel | Box_Question, QMessageBox::No, Answer::No, Answer::Cancel},
-        {Box_Yes_No | Box_Stop, QMessageBox::No, Answer::No, Answer::Yes},
+        {Box_Yes_No | Box_Question, QMessageBox::No, Answer::No, Answer::Yes},
         {Box_Retry_Cancel, QMessageBox::Retry, Answer::Retry, Answer::Cancel}}) {
     At_Box([pressed = pressed](QWidget& box) { dynamic_cast<QMessageBox&>(box).button(pressed)->click(); });
     EXPECT_EQ(Message_Box("?", style), answer) << style;
@@ -117,8 +117,12 @@ TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
     });
     EXPECT_EQ(Message_Box("?", style), escaped) << style;
   }
-  At_Box([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
-  EXPECT_EQ(Message_Box("Overwrite?", Box_Yes_No_Cancel + Box_Stop), Answer::Cancel);
+  for (const auto& [style, answer] : {std::pair{Box_Yes_No_Cancel, Answer::Cancel},
+                                      {Box_Yes_No, Answer::No},
+                                      {Box_Retry_Cancel, Answer::Retry}}) {
+    At_Box([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(Message_Box("Overwrite?", style + Box_Stop), answer) << style;
+  }
 }
 
 }  // namespace
