@@ -153,7 +153,7 @@ class Evening:
         wait_until(lambda: self.screen.text("Tone name") == "TWO", "the second tone")
         self.screen.wait_for_end_of("File name")
         self.screen.key("ctrl+s")
-        self.answer('File contains another TONE: c:\\bank.syx', "No", "Return")
+        self.answer("File contains another TONE: ", "No", "Return")
         self.screen.focus(left="No")
         assert self.file("bank").read_bytes() == bank
         self.screen.wait_for_title("MELVOR - C:\\BANK.SYX*")
