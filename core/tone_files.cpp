@@ -154,9 +154,9 @@ void Tell_File_Error(const Runtime_Error& error) {
 
 // --- what a save would overwrite
 
-constexpr std::size_t Patch_Message_Place = 67;  // of a saved file, behind the tone
+constexpr std::size_t Patch_Message_Place = 67;  // of a saved file, after the tone
 
-// Whether the file's bytes behind its tone are the patch message that a save writes there.
+// Whether the bytes after the file's tone are the patch message that a save writes there.
 bool Holds_Own_Patch(std::string_view file) {
   Byte_String head;
   for (int place = 0; place < Head_Size; ++place)
@@ -168,7 +168,7 @@ bool Holds_Own_Patch(std::string_view file) {
          static_cast<std::uint8_t>(file[SysEx_Image_Size - 1]) == SysEx_End;
 }
 
-// The name of the tone whose message begins in the bytes that a save writes behind its own tone, in quotes.
+// The name, in quotes, of the tone whose message begins where a save writes its patch message.
 std::string Next_Tone(std::string_view file) {
   const std::size_t place = file.substr(0, SysEx_Image_Size).find(Tone_Message_Start, Patch_Message_Place);
   if (place == std::string_view::npos || file.size() < place + Head_Size + Tone_Name_Length) return {};
@@ -182,7 +182,7 @@ bool May_Overwrite(const std::string& path) {
   if (file.size() <= SysEx_Image_Size || Holds_Own_Patch(file)) return true;
   const std::string next = Next_Tone(file);
   const std::string text =
-      next.empty() ? "File contains other data behind its first 67 bytes: " + path +
+      next.empty() ? "File contains other data after its first 67 bytes: " + path +
                          "\rSave writes over 22 bytes of it. Save anyway?"
                    : "File contains another TONE: " + path + "\rSave writes over " + next + ". Save anyway?";
   return Message_Box(text, Box_Yes_No + Box_Stop) == Answer::Yes;

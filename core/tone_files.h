@@ -19,8 +19,8 @@ extern std::uint8_t Tone_Found;
 void Tone_Load(const std::string& path, Load_Mode mode);
 
 // Writes Tone_File; asks first if that would overwrite what another save of MELVOR has not put there. False
-// if nothing was written: by the user's answer, or by a failure, which is told in a box; then the old file is
-// whole and Tone_Saved as it was.
+// if nothing was written, because the user declined or because of a failure, which a box reports; the old
+// file and Tone_Saved are then unchanged.
 bool Tone_Save();
 
 // Flag_True if the path can be opened for reading, Flag_False if not. A single trailing "\" is taken off; an

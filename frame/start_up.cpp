@@ -12,6 +12,7 @@
 #include "frame/help_examples.h"
 #include "frame/menus.h"
 #include "frame/midi_setup.h"
+#include "midi/input.h"
 #include "midi/output.h"
 #include "midi/setup.h"
 #include "midi/state.h"
@@ -143,6 +144,7 @@ bool Start_Up() {
   MELVOR.on_load = Frame_Load;
   MELVOR.on_click = Frame_Click;
   MELVOR.MidiNotifyControl.on_change = MIDI_In_Poll;
+  MIDI_In_Arrived = [] { MELVOR.MidiNotifyControl.Set_Caption(MELVOR.MidiNotifyControl.caption()); };
   MELVOR.Timer_Display.on_tick = Timer_Display_Tick;
   Event_Ended = Title_Mark;
   Show(MELVOR);

@@ -6,11 +6,11 @@
 
 #include "midi/devices.h"
 #include "platform/desktop.h"
-#include "windows/frame_window.h"
 
 std::int32_t MIDI_In_Handle = -1;
 Byte_String MIDI_In_Slot1;
 Byte_String MIDI_In_Slot2;
+std::function<void()> MIDI_In_Arrived;
 
 namespace {
 
@@ -18,7 +18,6 @@ constexpr std::uint32_t Buffer_Size = 10000;
 std::array<MIDI_Header, 4> MIDI_In_Header;
 
 std::int32_t open_handle = -1;  // of the buffers above; -1 once the input is being closed
-Label* MIDI_Notify_Target = nullptr;
 
 // A message that arrives while both slots wait is dropped, like one that finds no buffer.
 void Put_Into_Slot(const Byte_String& message) {
@@ -30,7 +29,7 @@ void Received(MIDI_Header& header) {
   if (header.bytes_recorded == 0) return;
   Put_Into_Slot(header.data.substr(0, header.bytes_recorded));
   const std::int32_t handle = open_handle;
-  MIDI_Notify_Target->Set_Caption(MIDI_Notify_Target->caption());
+  if (MIDI_In_Arrived) MIDI_In_Arrived();
   if (handle != open_handle) return;  // the message ended the wait, and with it the input
   MIDI_In_Error(midiInAddBuffer(handle, header), "vbMidiInAddBuffer");
 }
@@ -61,21 +60,20 @@ void MIDI_In_Free_Buffers(std::int32_t handle) {
 
 void MIDI_In_Open() {
   if (MIDI_In_Handle >= 0) return;
-  MIDI_In_Handle = vbMidiInOpen(MIDI_In_Device, MELVOR.MidiNotifyControl);
+  MIDI_In_Handle = vbMidiInOpen(MIDI_In_Device);
   if (MIDI_In_Handle <= 0) return;
   const int code = midiInStart(MIDI_In_Handle);
   MIDI_In_Error(code, "vbMidiInOpen");
   if (code != Midi_Ok) MIDI_In_Close();
 }
 
-std::int32_t vbMidiInOpen(int device, Label& notify) {
+std::int32_t vbMidiInOpen(int device) {
   MIDI_In_Slot1.clear();
   std::int32_t handle = -1;
   const int code = midiInOpen(handle, device, Received);
   MIDI_In_Error(code, "vbMidiInOpen");
   if (code != Midi_Ok) return -1;
   open_handle = handle;
-  MIDI_Notify_Target = &notify;
   if (Hand_Out_Buffers(handle) == Midi_Ok) return handle;
   vbMidiInClose(handle);
   return -1;

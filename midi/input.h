@@ -3,9 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
-#include "platform/controls.h"
 #include "platform/midi_service.h"
 
 extern std::int32_t MIDI_In_Handle;  // -1: closed; above 0: started
@@ -14,13 +14,16 @@ extern std::int32_t MIDI_In_Handle;  // -1: closed; above 0: started
 extern Byte_String MIDI_In_Slot1;
 extern Byte_String MIDI_In_Slot2;
 
+// Called when a slot has been filled.
+extern std::function<void()> MIDI_In_Arrived;
+
 // Opens and starts the chosen input if it is closed. The handle stays -1 if that fails; failures are told in
 // boxes.
 void MIDI_In_Open();
 
 // Opens the device with four buffers of 10,000 bytes. From then on each received message is put into a free
-// slot, and the change of notify is raised. Returns the handle, -1 on failure.
-std::int32_t vbMidiInOpen(int device, Label& notify);
+// slot and announced. Returns the handle, -1 on failure.
+std::int32_t vbMidiInOpen(int device);
 
 // Closes the input if it is open; the handle is -1 afterwards, whatever the service says.
 void MIDI_In_Close();

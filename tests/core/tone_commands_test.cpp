@@ -9,13 +9,13 @@ namespace {
 
 struct Tone_Commands : Program {
   Tone_Commands() {
-    MELVOR.MidiNotifyControl.on_change = MIDI_In_Poll;
+    MIDI_In_Arrived = MIDI_In_Poll;
     Show(Editor);
   }
   ~Tone_Commands() override {
     MIDI_In_Close();
     Receive_On = 0;
-    MELVOR.MidiNotifyControl.on_change = nullptr;
+    MIDI_In_Arrived = nullptr;
     Menus_Enable();
     Unload(Editor);
   }
@@ -92,7 +92,7 @@ TEST_F(Tone_Commands, A_Failed_Open_Changes_Nothing_And_A_Vanished_Input_Closes)
 
 TEST_F(Tone_Commands, Two_Messages_Wait_In_Order_And_A_Third_Is_Dropped) {
   Tone_Receive_Toggle();
-  MELVOR.MidiNotifyControl.on_change = nullptr;
+  MIDI_In_Arrived = nullptr;
   for (const std::size_t size : {66U, 67U, 8U}) EXPECT_TRUE(service.Deliver(Dump(size)));
   MIDI_In_Poll();
   EXPECT_EQ(Receive_On, 0);

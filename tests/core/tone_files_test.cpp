@@ -108,13 +108,13 @@ TEST_F(Tone_Files, A_Save_Asks_Before_It_Writes_Over_What_Is_Not_Its_Own) {
   const std::string next =
       "File contains another TONE: C:\\a.syx\rSave writes over \"((((((((((\". Save anyway?";
   const std::string other =
-      "File contains other data behind its first 67 bytes: C:\\a.syx\rSave writes over 22 bytes of it. Save "
+      "File contains other data after its first 67 bytes: C:\\a.syx\rSave writes over 22 bytes of it. Save "
       "anyway?";
   const std::string tone = Tone_Message(1), short_patch = Bytes_Of("F0 41 36 00 21 30 01 00 05 F7");
   Tone_File = "C:\\a.syx";
   for (const auto& [name, file, question] :
        {std::tuple{"a bank", tone + Tone_Message(40) + Tone_Message(41), next},
-        {"a tone behind a shorter patch", tone + short_patch + Tone_Message(40), next},
+        {"a tone after a shorter patch", tone + short_patch + Tone_Message(40), next},
         {"another patch", tone + Bytes_Of("F0 41 36 00 24") + Patch_Message.substr(5) + "x", other},
         {"a patch with a status byte in it",
          tone + Patch_Message.substr(0, 10) + "\xF7" + std::string(20, 'x'), other},

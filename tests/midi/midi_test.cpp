@@ -2,9 +2,9 @@
 #include "midi/output.h"
 #include "midi/setup.h"
 #include "midi/state.h"
+#include "platform/form.h"
 #include "support/recording_service.h"
 #include "support/scripted_desktop.h"
-#include "windows/editor_window.h"
 
 namespace {
 
@@ -15,11 +15,12 @@ struct Midi : testing::Test {
     MIDI_Out_Device = 0;
     MIDI_Out_Handle = -1;
     Seq_Status = 0;
-    Show(Editor);  // the close looks for a window
+    Show(window);  // the close looks for a window
   }
-  ~Midi() override { Unload(Editor); }
+  ~Midi() override { Unload(window); }
   Scripted_Desktop desktop;
   Recording_Service service;
+  Form window{Form_Role::Child, "window"};
 };
 
 TEST_F(Midi, The_Output_Opens_At_The_First_Send_And_Stays_Open) {
