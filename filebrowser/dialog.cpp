@@ -15,6 +15,7 @@
 #include "midi/output.h"
 #include "panel/push_buttons.h"
 #include "platform/text.h"
+#include "sequencer/seq_files.h"
 #include "windows/file_dlg_window.h"
 #include "windows/focus_mark.h"
 #include "windows/frame_window.h"
@@ -60,6 +61,7 @@ void Dialog_Load() {
   File_Dlg.FD_List_Drives.Refresh();
   FD_Drive = File_Dlg.FD_List_Drives.drive();
   FD_Soundcheck_Load();
+  Seq_Previews_Begin();
   const std::string* directory = Directory_Of_Pattern();
   FD_Show_Directory(directory != nullptr ? *directory : std::string());
   File_Dlg.FD_FileName.Select_All();

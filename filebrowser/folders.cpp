@@ -98,6 +98,17 @@ int Error_Of(const std::function<void()>& deed) {
   }
 }
 
+// The one that took the place of the file that is gone; none is heard.
+void Choose_Next(int place) {
+  File_List& files = File_Dlg.FD_List_Files;
+  files.Refresh();
+  if (place < 0) return;
+  files.Select(std::min(place, files.Count() - 1));
+  FD_Selected = files.file_name();
+  FD_Selected_Path = Path_Slash(files.path()) + FD_Selected;
+  File_Dlg.FD_FileName.Set_Text(FD_Selected);
+}
+
 // The file that the name field says goes. One that is not the file asked about leaves a copy.
 void Delete_File(bool confirmed) {
   const std::string name = Trim(File_Dlg.FD_FileName.text());
@@ -107,11 +118,10 @@ void Delete_File(bool confirmed) {
     File_Delete(path);
     FD_Selected_Path.clear();  // a file that now answers to the name was not asked about
   };
-  if (confirmed && Error_Of(remove) != 0) {
-    Message_Box(Upper(FD_Selected) + " could not be deleted.", Box_Exclamation);
-  } else {
-    File_Dlg.FD_List_Files.Refresh();
-  }
+  const int place = File_Dlg.FD_List_Files.index();
+  if (!confirmed) return File_Dlg.FD_List_Files.Refresh();
+  if (Error_Of(remove) == 0) return Choose_Next(place);
+  Message_Box(Upper(FD_Selected) + " could not be deleted.", Box_Exclamation);
 }
 
 void Delete_Directory(bool confirmed) {

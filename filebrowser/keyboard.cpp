@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include "filebrowser/confirm.h"
 #include "filebrowser/soundcheck.h"
@@ -50,7 +51,7 @@ void Alt_Key_Down(int code) {
 }
 
 void Window_Key(Key_Event& key) {
-  if (key.code == Key::Escape && key.shift == 0) {
+  if (key.code == Key::Escape) {
     key.code = 0;
     File_Dlg.FD_Button_Cancel.on_click();
   } else if (key.shift == Alt_Key && key.code != Alt_Itself) {
@@ -66,11 +67,20 @@ void File_Name_Key(Key_Event& key) {
   if (!key.repeated) FD_Confirm();
 }
 
+// The chosen file's name may not be in the name field yet: the arrow keys load nothing.
+void Files_Key(Key_Event& key) {
+  if (key.code != Key::Enter) return;
+  const std::string chosen = File_Dlg.FD_List_Files.file_name();
+  if (!chosen.empty() && !key.repeated) File_Dlg.FD_FileName.Set_Text(chosen);
+  File_Name_Key(key);
+}
+
 }  // namespace
 
 void FD_Keyboard_Wire() {
   File_Dlg.on_key_down = Window_Key;
   File_Dlg.FD_FileName.on_key_down = File_Name_Key;
+  File_Dlg.FD_List_Files.on_key_down = Files_Key;
   for (Control* control : File_Dlg.controls) {
     const bool works = control->on_mouse_down || control->on_click;
     if (control->kind == Kind::Picture_Box && works) Work_By_Space(static_cast<Picture_Box&>(*control));

@@ -5,6 +5,7 @@
 
 #include "platform/desktop.h"
 #include "platform/directories.h"
+#include "platform/drives.h"
 #include "windows/editor_window.h"
 #include "windows/state.h"
 
@@ -26,7 +27,7 @@ void Pics_Build_Segments() {
     Font_Loaded = Flag_True;
     return;
   }
-  const std::string shown_path = Program_Directory() + "\\" + std::string(Font_File);
+  const std::string shown_path = Program_Path(Font_Path());
   Message_Box("Error: Could not load font " + shown_path + "\nUsing default font.", Box_Ok | Box_Stop,
               Box_Title);
 }

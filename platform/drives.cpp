@@ -237,6 +237,14 @@ std::string Program_Path(std::string_view host_path) {
   return path;
 }
 
+// ".." goes first: a drive's root may lie deep in the host's file system, and has no parent.
+std::string Typed_Path(std::string_view text) {
+  const bool from_home = text == "~" || text.starts_with("~/");
+  if (!from_home && !text.starts_with('/')) return std::string(text);
+  const std::string full = from_home ? Host_Path("C:\\") + std::string(text.substr(1)) : std::string(text);
+  return Program_Path(std::filesystem::path(full).lexically_normal().string());
+}
+
 std::string Current_Directory() {
   std::error_code error;
   const std::filesystem::path current = std::filesystem::current_path(error);

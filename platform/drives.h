@@ -30,6 +30,10 @@ std::string Host_Path(std::string_view path);
 // where two are alike. Runtime_Error 68: no drive holds it.
 std::string Program_Path(std::string_view host_path);
 
+// What a user typed for a path: "/..." and "~/..." are the host's ways of writing one and become the
+// program's; any other text is left as it is. Errors as Program_Path.
+std::string Typed_Path(std::string_view text);
+
 // The path with its drive, its names spelled as on disk, and no backslash at the end but for the root of a
 // drive. Errors as Host_Path.
 std::string Spelled_Path(std::string_view path);

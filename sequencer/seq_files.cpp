@@ -34,6 +34,28 @@ constexpr std::size_t File_Size = Cells_Place + static_cast<std::size_t>(Seq_Cel
 constexpr int Preview_Pitch_px = 8;
 constexpr int Preview_Margin_px = 1;
 
+struct Kept_Sequence {
+  std::array<std::int16_t, Seq_Cell_Count> cells{};
+  int speed = Seq_Default_Speed;
+  int base_note = 0;
+  int range_index = Seq_Default_Range;
+  int interval_ms = 0;
+  std::uint8_t loaded = Flag_Off;
+};
+
+Kept_Sequence Before_Previews;
+
+// A file that is refused leaves the Sequencer as it was: what the dialog has previewed must not stay behind
+// it, since Save would write cells that nobody sees.
+void Give_Up_Previews() {
+  Seq_Data = Before_Previews.cells;
+  Seq_Speed = Before_Previews.speed;
+  Seq_Base_Note = Before_Previews.base_note;
+  Seq_Range_Index = Before_Previews.range_index;
+  MELVOR.Seq_Tmr.interval_ms = Before_Previews.interval_ms;
+  Seq_Loaded = Before_Previews.loaded;
+}
+
 void Name_From(const std::string& path) { Seq_Name = Path_Behind(path, Dir_Sequences.size()); }
 
 bool Acceptable(const Byte_String& bytes) {
@@ -129,9 +151,15 @@ void Seq_Load(const std::string& path, Load_Mode mode) {
   try {
     Load_File(path, mode);
   } catch (const Runtime_Error& error) {
+    if (mode == Load_Mode::Open && FD_Open == Flag_True && Seq_Open == Flag_On) Give_Up_Previews();
     Tell(error);
   }
   MELVOR.pointer = Pointer_Shape::Default;
+}
+
+void Seq_Previews_Begin() {
+  Before_Previews = {Seq_Data,  Seq_Speed, Seq_Base_Note, Seq_Range_Index, MELVOR.Seq_Tmr.interval_ms(),
+                     Seq_Loaded};
 }
 
 void Seq_Clear() {

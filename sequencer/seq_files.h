@@ -13,6 +13,9 @@
 // one counts as loaded, without a word and with the cells as they were, until Seq_Clear.
 void Seq_Load(const std::string& path, Load_Mode mode);
 
+// The file dialog opens: a file that it cannot open into the Sequencer brings back what is in memory now.
+void Seq_Previews_Begin();
+
 // Empties the matrix and puts tempo, range and flags to their start values. The file's path, the base note,
 // the clock and the controls of the window stay as they are.
 void Seq_Clear();

@@ -1,8 +1,10 @@
 #include "adapters/qt/list_views.h"
 
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
+#include <QToolTip>
 
 #include "adapters/qt/accessible.h"
 #include "adapters/qt/qt_text.h"
@@ -27,6 +29,17 @@ struct Rows final : QListWidget {
     const QSignalBlocker not_the_users(this);
     QListWidget::focusInEvent(event);
     if (selectedItems().isEmpty()) setCurrentRow(-1);
+  }
+
+  // A name that is cut short can be read as a whole.
+  bool viewportEvent(QEvent* event) override {
+    if (event->type() != QEvent::ToolTip) return QListWidget::viewportEvent(event);
+    const auto& help = static_cast<QHelpEvent&>(*event);
+    const QModelIndex row = indexAt(help.pos());
+    const bool cut = row.isValid() && sizeHintForIndex(row).width() > viewport()->width();
+    QToolTip::showText(help.globalPos(),
+                       cut ? As_Plain_Tip(From_Qt(row.data().toString().trimmed())) : QString(), viewport());
+    return true;
   }
 };
 

@@ -58,16 +58,63 @@ TEST_F(Actions_Test, Each_Kind_Does_Its_Own_With_Each_Action) {
 
 TEST_F(Actions_Test, What_Cannot_Be_Done_Is_Told_And_The_Dialog_Stays) {
   Tone_Saved = Flag_False;
-  for (const auto& [kind, typed, box] : {std::tuple{"Open_SYX", "zzz", "File not found : zzz.syx"},
-                                         {"Open_SEQ", "none\\p.seq", "Path not found : none\\p.seq"},
-                                         {"SaveAs_SEQ", "*.seq", "Bad file name or number : *.seq"},
-                                         {"SaveAs_SYX", "none\\t", "Error 76: Path not found"}}) {
+  for (const auto& [kind, typed, box] :
+       {std::tuple{"Open_SYX", "zzz", "File not found : zzz.syx"},
+        {"Open_SYX", "~/none/a.syx", "Path not found : ~/none/a.syx"},
+        {"Open_ALL", "c:\\zzz.syx", "File not found : c:\\zzz.syx"},
+        {"Open_ALL", "~/work/a.syx", "Nothing can be opened or saved among all files : ~/work/a.syx"},
+        {"Open_SEQ", "none\\p.seq", "Path not found : none\\p.seq"},
+        {"SaveAs_SEQ", "*.seq", "Bad file name or number : *.seq"},
+        {"SaveAs_SYX", "none\\t", "Error 76: Path not found"}}) {
     Open(kind);
     desktop.Expect_Box(Answer::Ok, box);
     Enter(typed);
     EXPECT_TRUE(Is_Open()) << typed;
     Unload(File_Dlg);
   }
+}
+
+TEST_F(Actions_Test, A_Name_With_Its_Place_Means_That_Place) {
+  const std::string home = root.host.string();
+  root.Put("work/sub/c.syx", Tone_Bytes('C'));
+  Autoplay = Autosend = 0;
+  for (const std::string name : {"C:\\work\\sub\\c.syx", "\\work\\sub\\c", "~/work/./x/../sub/c", "sub\\c"}) {
+    for (const std::string& typed : {name, name[0] == '~' ? home + name.substr(1) : name}) {
+      Fresh_Memory();
+      Open("Open_SYX");
+      Enter(typed);
+      EXPECT_FALSE(Is_Open()) << typed;
+      EXPECT_EQ(Tone[0], 'C') << typed;
+      EXPECT_EQ(Dir_Tones, "C:\\work\\sub") << typed;
+    }
+  }
+  for (const std::string kind : {"SaveAs_SYX", "SaveAs_SEQ"}) {
+    Fresh_Memory();
+    Open(kind);
+    Enter("~/work/sub/New");
+    EXPECT_FALSE(Is_Open());
+    EXPECT_NE(root.Get(kind == "SaveAs_SYX" ? "work/sub/new.syx" : "work/sub/new.seq"), "(none)");
+  }
+  EXPECT_EQ(Dir_Sequences, "C:\\work\\sub");
+
+  // What only leads elsewhere says nothing; a name that the shown list has, but not the place, is answered.
+  Open("Open_SYX");
+  for (const char* typed : {"~/work/sub/", "*.?yx"}) Enter(typed);
+  EXPECT_EQ(File_Dlg.FD_List_Files.items(), (std::vector<std::string>{"c.syx", "new.syx"}));
+  EXPECT_TRUE(Is_Open());
+  File_Dlg.FD_List_Dirs.Set_Path("C:\\work");
+  Enter("C:\\work\\sub\\");
+  desktop.Expect_Box(Answer::Ok, "File not found : c.syx");
+  Enter("c.syx");
+  Unload(File_Dlg);
+}
+
+TEST_F(Actions_Test, Enter_In_The_List_Opens_What_Is_Chosen_There) {
+  Open("Open_SYX");
+  Set_Focus(File_Dlg.FD_List_Files);
+  User_Selected(File_Dlg.FD_List_Files, 1);
+  desktop.Key(Key::Enter);
+  EXPECT_EQ(Tone_File, "C:\\work\\B.SYX");
 }
 
 TEST_F(Actions_Test, An_Existing_File_Is_Only_Overwritten_With_Consent) {

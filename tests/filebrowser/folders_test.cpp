@@ -89,7 +89,9 @@ TEST_F(Folders_Test, Delete_Asks_First) {
   Press_File("a.syx");
   press_delete("A.SYX", Answer::Yes);
   EXPECT_EQ(File_Dlg.FD_List_Files.items(), (std::vector<std::string>{"B.SYX", "bad.syx"}));
-  press_delete("A.SYX", Answer::Yes, " could not be deleted.");
+  EXPECT_EQ(File_Dlg.FD_List_Files.file_name() + File_Dlg.FD_FileName.text(), "B.SYXB.SYX") << "the next one";
+  File_Dlg.FD_FileName.Set_Text("a.syx");
+  press_delete("B.SYX", Answer::Yes, " could not be deleted.");
   const auto bad = root.Get("work/bad.syx");
   Press_File("B.SYX");
   File_Dlg.FD_FileName.Set_Text("bad.syx");

@@ -59,6 +59,24 @@ TEST_F(Frame, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
   EXPECT_EQ(Seq_Data[0], 0);
 }
 
+TEST_F(Frame, A_Sequence_That_Is_Refused_After_Its_Preview_Leaves_The_One_In_The_Window) {
+  const std::string good = "SEQ1" + Bytes_Of("3C 30") + std::string(104, '\x7F');
+  root.Put("good.seq", good);
+  root.Put("high.seq", "SEQ1" + Bytes_Of("3C 78") + std::string(104, '\x3F'));
+  ASSERT_TRUE(Start(std::string(Configured) + "[Recent Files]\nSequences=c:\\\nSequence1=C:\\GOOD.SEQ\n"));
+  Choose(MELVOR.Menu_MIDI_Seq);
+  Choose(MELVOR.Menu_File_Seq_1);
+  Choose(MELVOR.Menu_File_Seq_Open);
+  User_Selected(File_Dlg.FD_List_Files, 1);
+  desktop.Click(File_Dlg.FD_List_Files);
+  EXPECT_EQ(Seq_Data[0], Seq_Soft);
+  desktop.Expect_Box(Answer::Ok, "Error 380: Invalid property value");
+  desktop.Key(Key::Enter);
+  Unload(File_Dlg);
+  Choose(MELVOR.Menu_File_Seq_Save);
+  EXPECT_EQ(root.Get("good.seq"), good);
+}
+
 TEST_F(Frame, A_Recent_Tone_Is_Saved_Under_Its_Own_Name) {
   const std::string tone = Bytes_Of("F0 41 35 00 21 20 01") + std::string(59, 'a') + "\xF7";
   for (const char* name : {"a.syx", "b.syx", "c.syx"}) root.Put(name, tone);

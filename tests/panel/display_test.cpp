@@ -4,6 +4,7 @@
 #include "panel/input_box.h"
 #include "panel/tone_name.h"
 #include "platform/directories.h"
+#include "platform/drives.h"
 #include "platform/text.h"
 #include "windows/input_dlg_window.h"
 #include "windows/modal.h"
@@ -64,9 +65,10 @@ TEST_F(Display_Test, The_Prompt_Waits_For_Its_Answer) {
 }
 
 TEST_F(Display_Test, It_Gets_The_Font_And_Gives_It_Back_Once_Or_Keeps_Its_Face) {
+  Drives_Set({{'Z', "/"}});
   desktop.fonts_load = false;
   desktop.Expect_Box(Answer::Ok,
-                     "Error: Could not load font C:\\.config\\melvor\\MELVOR.FNT\nUsing default font.");
+                     "Error: Could not load font Z:\\data\\melvor\\MELVOR.FNT\nUsing default font.");
   Pics_Build_Segments();
   EXPECT_EQ(Editor.Tone_Name.font_face(), "");
   desktop.fonts_load = true;

@@ -1,7 +1,10 @@
 // Mouse and keys, as they reach the program.
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollBar>
+#include <QToolTip>
 #include <tuple>
 
 #include "adapters/qt/keys.h"
@@ -137,6 +140,8 @@ TEST_F(Desk, Lists_And_Bars_Have_The_Keys_That_A_Hand_Expects) {
   Combo_Box list(panel, "List");
   list.Place(0, 0, 90, 20);
   list.tab_index = 3;
+  List_Box rows(panel, "Rows");
+  rows.Place(0, 150, 90, 60);
   Scroll_Bar bar(panel, "Bar");
   bar.Place(0, 40, 150, 16);
   bar.tab_index = 4;
@@ -149,6 +154,15 @@ TEST_F(Desk, Lists_And_Bars_Have_The_Keys_That_A_Hand_Expects) {
   EXPECT_EQ(list.index(), 0) << "an access key looks for no entry";
   Type(Qt::Key_D);
   EXPECT_EQ(list.index(), 2);
+  for (const char* name : {"short.syx", "a name that the list has to cut.syx"}) rows.Add_Item(name);
+  desktop.Run_Events(Event_Set::All);
+  auto& view = dynamic_cast<QListWidget&>(Widget("Rows"));
+  for (const auto& [row, tip] : {std::pair{0, false}, {1, true}}) {
+    const QPoint place = view.visualItemRect(view.item(row)).center();
+    QHelpEvent asked(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(view.viewport(), &asked);
+    EXPECT_EQ(QToolTip::text().contains(view.item(row)->text().left(9)), tip);
+  }
   Set_Focus(bar);
   for (const auto& [key, value] :
        {std::pair{Qt::Key_Right, 51}, {Qt::Key_Left, 50}, {Qt::Key_Up, 51}, {Qt::Key_Down, 50}}) {
