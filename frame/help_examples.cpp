@@ -127,9 +127,8 @@ void Tune_Set(int semitones) {
 void Wire_Tune() {
   for (Picture_Box* element : {&Help.Tune, &Help.Tune_Knopf}) {
     Wire_Focus(*element, Help.Tune_Knopf, Tune_Info);
-    element->on_key_down = [](Key_Event& key) {
-      Tune_Set(Tune_Knob_Key(Semitone_12(Help_Demo[Demo_Tune]), key.code));
-    };
+    On_Key(*element,
+           [](int key_code) { Tune_Set(Tune_Knob_Key(Semitone_12(Help_Demo[Demo_Tune]), key_code)); });
     element->on_mouse_down = [](const Mouse_Event&) { Help_Demo_Store(Demo_Tune, Help_Demo[Demo_Tune]); };
     element->on_mouse_move = [](const Mouse_Event& event) {
       if (event.button == 0) return;

@@ -61,6 +61,9 @@ TEST_F(Patch_Test, Keys_Move_Each_Kind_By_Its_Own_Rule) {
     Key_On(range, key);
     Key_On(portamento, key);
   }
+  for (const int key : {Key::Ctrl, Key::Tab}) {
+    for (Picture_Box* element : {&time, &portamento, &knob, &dot}) Key_On(*element, key);
+  }
   EXPECT_TRUE(Sent().empty());
 }
 
@@ -129,7 +132,7 @@ TEST_F(Editor_Fixture, On_The_MKS70_What_Is_Changed_Goes_To_The_Tone_That_Is_Sho
   for (Picture_Box* tone : {&panel.Tone_A, &panel.Tone_B_Pic}) {
     desktop.Click(*tone);
     User_Selected(panel.Split_Point, tone == &panel.Tone_A ? 87 : 39);
-    for (const int key : {Key::Home, Key::Keypad_Minus}) Key_On(panel.UDTune, key);
+    for (const int key : {Key::Home, Key::Ctrl, Key::Tab, Key::Keypad_Minus}) Key_On(panel.UDTune, key);
   }
   const std::string head = "F0 41 36 00 21 30 01 ";
   EXPECT_EQ(Sent(), (Texts{head + "20 7F F7", head + "20 7E F7", head + "29 7F F7", head + "29 7E F7"}));
