@@ -69,9 +69,7 @@ void Show_Lights() {
 
 // Whatever was selected before comes to rest, whichever window it stands in.
 void Select(Picture_Box& mark, std::string_view info) {
-  Ctl_Deselect();
-  Show_Lights();
-  Active_Ctl = &mark;
+  Ctl_Select(&mark);
   Help.Info.Set_Text(info);
 }
 
@@ -154,8 +152,8 @@ void Wire_Switch() {
 
 void Light_Click(int item) {
   Help_LED_Sel = item;
+  Ctl_Select(&Light(item));
   Show_Lights();
-  Active_Ctl = &Light(item);
   Help_Demo_Store(Demo_Light, item);
 }
 
@@ -168,10 +166,7 @@ void Light_Key(const Key_Event& key) {
 void Wire_Light(int item) {
   Picture_Box& light = Light(item);
   light.on_got_focus = [] { Select(Light(Help_LED_Sel), Switch_Info); };
-  light.on_lost_focus = [] {
-    Ctl_Deselect();
-    Show_Lights();
-  };
+  light.on_lost_focus = Ctl_Deselect;
   light.on_key_down = [](Key_Event& key) { Light_Key(key); };
   light.on_click = [item] { Light_Click(item); };
   light.is_on = [item] { return item == Help_LED_Sel; };

@@ -97,7 +97,7 @@ void Wire_VCA_Mode() {
 
 void Select_First() {
   Blink_Phase = 0;
-  Active_Ctl = &Editor.DCO1_Range;
+  Ctl_Select(&Editor.DCO1_Range);
 }
 
 void Blink_Tick() {

@@ -85,7 +85,7 @@ void Patch_Load() {
   Patch_Layout();
   Patch_Show();
   Blink_Phase = 0;
-  Active_Ctl = &Patch.Portamento_Time;
+  Ctl_Select(&Patch.Portamento_Time);
 }
 
 void Patch_Unload() {

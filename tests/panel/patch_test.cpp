@@ -1,6 +1,9 @@
 #include "panel/patch.h"
 
+#include <set>
+
 #include "panel/editor_fixture.h"
+#include "panel/patch_lights.h"
 #include "panel/patch_mks70.h"
 #include "windows/patch_mks70_window.h"
 #include "windows/patch_window.h"
@@ -110,6 +113,28 @@ TEST_F(Patch_Test, Lights_Are_Chosen_By_Click_And_Key) {
   for (int step = 0; step < 4; ++step) desktop.Key(Key::Page_Down);
   EXPECT_EQ(Sent().back(), Message(4, 0));
   EXPECT_EQ(Lit(Patch.After_Touch) + Lit(Patch.Key_Mode), "04") << "the other group keeps its light";
+}
+
+TEST_F(Patch_Test, A_Group_Shows_One_Light_Though_A_Tone_Has_Lit_Another_Than_The_Chosen_One) {
+  desktop.Click(Patch.After_Touch[1]);
+  desktop.Click(Patch.Key_Mode[1]);
+  for (Picture_Box* focused : {&Patch.Key_Mode[1], &Patch.After_Touch[1], &Patch.UDTune}) {
+    EXPECT_EQ(Focused_Control(), focused);
+    Have(3, 6);
+    Have(4, 4);
+    std::set<std::string> seen;
+    for (int phase = 0; phase < 2; ++phase) {
+      desktop.Advance_ms(250);
+      seen.insert(Lit(Patch.Key_Mode) + " " + Lit(Patch.After_Touch));
+    }
+    const char* dark = focused == &Patch.UDTune ? "5 3" : focused == &Patch.Key_Mode[1] ? " 3" : "5 ";
+    EXPECT_EQ(seen, (std::set<std::string>{"5 3", dark})) << focused->name;
+    desktop.Key(Key::Tab);
+  }
+  Sent();
+  Set_Focus(Patch.Key_Mode[1]);
+  desktop.Key(Key::Down);
+  EXPECT_EQ(Sent(), Texts{Message(3, 2)}) << "from the item that was chosen";
 }
 
 TEST_F(Patch_Test, Tab_Walks_The_Groups_Forward_Even_With_Shift) {
