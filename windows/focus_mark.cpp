@@ -9,7 +9,6 @@
 #include "windows/help_window.h"
 #include "windows/patch_window.h"
 #include "windows/pictures.h"
-#include "windows/state.h"
 
 Picture_Box* Active_Ctl = nullptr;
 Picture_Box* Saved_Ctl = nullptr;
