@@ -26,13 +26,8 @@
 
 namespace {
 
-// The closing may yet be refused, so the start buttons rise as they do after any stop.
 void Silence() {
-  if (MELVOR.Seq_Tmr.enabled()) {
-    MELVOR.Seq_Tmr.enabled = false;
-    Seq_Running = Flag_Off;
-    Seq_Start_Faces_Up();
-  }
+  if (MELVOR.Seq_Tmr.enabled()) Seq_Stop_Clock();
   MIDI_Reset();
 }
 
@@ -68,7 +63,7 @@ void Frame_Unload() {
   Pics_Release_Font();
   MELVOR.Timer_Display.enabled = false;
   Editor.Timer1.enabled = false;
-  MELVOR.Seq_Tmr.enabled = false;
+  Seq_Stop_Clock();
   Settings_Save();
   MIDI_Out_Close_Wholly();
   Do_Events();

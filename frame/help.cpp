@@ -53,8 +53,7 @@ void Show_Page(std::string_view mode) {
 
 void Howto_Click() {
   Show_Page("Howto");
-  Ctl_Deselect();
-  Active_Ctl = &Help.Pos_Sw;
+  Ctl_Select(&Help.Pos_Sw);
 }
 
 void About_Click() {

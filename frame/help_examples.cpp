@@ -69,9 +69,7 @@ void Show_Lights() {
 
 // Whatever was selected before comes to rest, whichever window it stands in.
 void Select(Picture_Box& mark, std::string_view info) {
-  Ctl_Deselect();
-  Show_Lights();
-  Active_Ctl = &mark;
+  Ctl_Select(&mark);
   Help.Info.Set_Text(info);
 }
 
@@ -127,9 +125,8 @@ void Tune_Set(int semitones) {
 void Wire_Tune() {
   for (Picture_Box* element : {&Help.Tune, &Help.Tune_Knopf}) {
     Wire_Focus(*element, Help.Tune_Knopf, Tune_Info);
-    element->on_key_down = [](Key_Event& key) {
-      Tune_Set(Tune_Knob_Key(Semitone_12(Help_Demo[Demo_Tune]), key.code));
-    };
+    On_Key(*element,
+           [](int key_code) { Tune_Set(Tune_Knob_Key(Semitone_12(Help_Demo[Demo_Tune]), key_code)); });
     element->on_mouse_down = [](const Mouse_Event&) { Help_Demo_Store(Demo_Tune, Help_Demo[Demo_Tune]); };
     element->on_mouse_move = [](const Mouse_Event& event) {
       if (event.button == 0) return;
@@ -155,8 +152,8 @@ void Wire_Switch() {
 
 void Light_Click(int item) {
   Help_LED_Sel = item;
+  Ctl_Select(&Light(item));
   Show_Lights();
-  Active_Ctl = &Light(item);
   Help_Demo_Store(Demo_Light, item);
 }
 
@@ -169,10 +166,7 @@ void Light_Key(const Key_Event& key) {
 void Wire_Light(int item) {
   Picture_Box& light = Light(item);
   light.on_got_focus = [] { Select(Light(Help_LED_Sel), Switch_Info); };
-  light.on_lost_focus = [] {
-    Ctl_Deselect();
-    Show_Lights();
-  };
+  light.on_lost_focus = Ctl_Deselect;
   light.on_key_down = [](Key_Event& key) { Light_Key(key); };
   light.on_click = [item] { Light_Click(item); };
   light.is_on = [item] { return item == Help_LED_Sel; };

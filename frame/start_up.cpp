@@ -105,7 +105,7 @@ void Frame_Load() {
   Started = false;
   Dlg_Nest = 0;
   Pics_Build_Segments();
-  Active_Ctl = &Editor.DCO1_Range;
+  Ctl_Select(&Editor.DCO1_Range);
   System_PPI = The_Desktop().Pixels_Per_Inch();
   PPI_Scale = static_cast<float>(System_PPI) / Small_Fonts_PPI;
   if (System_PPI != Small_Fonts_PPI && System_PPI != Large_Fonts_PPI) return Refuse_Screen();

@@ -9,6 +9,7 @@
 
 std::int32_t MIDI_Out_Handle = -1;
 MIDI_Header MIDI_Long_Hdr;
+std::function<void()> MIDI_Lost;
 
 namespace {
 
@@ -27,6 +28,11 @@ std::uint32_t Pack(int status, int data_1, int data_2) {
          (static_cast<std::uint32_t>(data_2) << Data_2_Shift);
 }
 
+void Switch_Off() {
+  MIDI_Enabled = 0;
+  if (MIDI_Lost) MIDI_Lost();
+}
+
 int Byte_At(std::string_view message, std::size_t place) {
   return place < message.size() ? static_cast<std::uint8_t>(message[place]) : 0;
 }
@@ -39,7 +45,7 @@ void MIDI_Out_Open() {
   if (code == Midi_Ok) return;
   MIDI_Out_Handle = -1;
   MIDI_Out_Error(code, "MIDI_Out_Open");
-  MIDI_Enabled = 0;
+  Switch_Off();
 }
 
 void MIDI_Out_Close() {
@@ -143,7 +149,7 @@ void MIDI_Out_Error(int code, std::string_view procedure) {
     MIDI_Out_Close();
     closing = false;
   }
-  MIDI_Enabled = 0;
+  Switch_Off();
 }
 
 void MIDI_Long_Error(std::string_view procedure, int code) {

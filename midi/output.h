@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "platform/midi_service.h"
@@ -12,6 +13,9 @@ extern std::int32_t MIDI_Out_Handle;  // -1: closed
 
 // The one long-message header: at most one long message is in flight.
 extern MIDI_Header MIDI_Long_Hdr;
+
+// Filled by the sequencer, called when a failure has switched MIDI off.
+extern std::function<void()> MIDI_Lost;
 
 // Opens the output if MIDI_Enabled is 1 and it is closed. A failure is told in a box; the handle is then -1
 // and MIDI_Enabled 0.

@@ -22,7 +22,7 @@ constexpr int Half = 64;
 void Wire_Slider(const Slider_Row& row) {
   Picture_Box& element = Editor.*row.element;
   Mark_On_Focus(element, element);
-  element.on_key_down = [&element, &row](Key_Event& key) { Slider_Key(element, row.range, key.code); };
+  On_Key(element, [&element, &row](int key_code) { Slider_Key(element, row.range, key_code); });
   element.on_mouse_down = [&row](const Mouse_Event&) {
     Tone_Param_Set(row.range.index, Tone[row.range.index]);
   };
@@ -47,7 +47,7 @@ int Band_Of(Bands bands, int value) {
 void Wire_Switch(const Switch_Row& row) {
   Picture_Box& element = Editor.*row.element;
   Mark_On_Focus(element, element);
-  element.on_key_down = [&element, &row](Key_Event& key) { Switch_Key(element, row.range, key.code); };
+  On_Key(element, [&element, &row](int key_code) { Switch_Key(element, row.range, key_code); });
   element.on_mouse_move = [&element, &row](const Mouse_Event& event) {
     if (event.button != 0) Switch_Drag(element, row.range, event.y);
   };
@@ -59,7 +59,7 @@ void Wire_Knob(const Knob_Row& row) {
   Picture_Box& dot = Editor.*row.dot;
   for (Picture_Box* element : {&(Editor.*row.body), &dot}) {
     Mark_On_Focus(*element, dot);
-    element->on_key_down = [&row](Key_Event& key) { Knob_Key(row.index, key.code); };
+    On_Key(*element, [&row](int key_code) { Knob_Key(row.index, key_code); });
     element->on_mouse_down = [&row](const Mouse_Event&) { Tone_Param_Set(row.index, Tone[row.index]); };
     element->on_mouse_move = [&row](const Mouse_Event& event) {
       if (event.button != 0) Knob_Drag(row.index, event.x);
@@ -84,10 +84,10 @@ void VCA_Mode_Toggle() {
 }
 
 void Wire_VCA_Mode() {
-  Editor.VCA_Mode.on_key_down = [](Key_Event& key) {
-    if (Is_Toggle_Key(key.code)) VCA_Mode_Toggle();
+  On_Key(Editor.VCA_Mode, [](int key_code) {
+    if (Is_Toggle_Key(key_code)) VCA_Mode_Toggle();
     VCA_Mode_Send();
-  };
+  });
   Editor.VCA_Mode.on_mouse_down = [](const Mouse_Event&) {
     VCA_Mode_Toggle();
     VCA_Mode_Send();
@@ -97,7 +97,7 @@ void Wire_VCA_Mode() {
 
 void Select_First() {
   Blink_Phase = 0;
-  Active_Ctl = &Editor.DCO1_Range;
+  Ctl_Select(&Editor.DCO1_Range);
 }
 
 void Blink_Tick() {

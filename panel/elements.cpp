@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
+#include <utility>
 
 #include "core/records.h"
 #include "core/sysex.h"
@@ -49,6 +50,12 @@ void Fine_Tune_Set(int index, int value) {
 }
 
 }  // namespace
+
+void On_Key(Picture_Box& element, std::function<void(int key_code)> work) {
+  element.on_key_down = [work = std::move(work)](Key_Event& key) {
+    if (key.code != Key::Tab) work(key.code);
+  };
+}
 
 int Slider_Top_At(int bottom, int value) { return bottom - Slider_Offset_px(value); }
 

@@ -3,6 +3,7 @@
 // that cap and value never part; of a knob the selected dot (Active_Ctl) moves.
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include "platform/controls.h"
@@ -13,6 +14,9 @@ struct Element_Range {
   int top;     // at the highest value
   int bottom;  // at the lowest value
 };
+
+// Fills the key slot: work gets every key but Tab, which only moves the focus.
+void On_Key(Picture_Box& element, std::function<void(int key_code)> work);
 
 constexpr int Switch_Row_px = 10;  // between two positions of a switch
 

@@ -47,7 +47,7 @@ void Patch_Slider_Drag(const Patch_Slider& slider, float y) {
 void Wire_Slider(const Patch_Slider& slider) {
   Picture_Box& element = slider.element;
   Mark_On_Focus(element, element);
-  element.on_key_down = [&slider](Key_Event& key) { Patch_Slider_Key(slider, key.code); };
+  On_Key(element, [&slider](int key_code) { Patch_Slider_Key(slider, key_code); });
   element.on_mouse_down = [&slider](const Mouse_Event&) {
     Patch_SetValue(slider.index, Patch_Rec[slider.index]);
   };
@@ -85,7 +85,7 @@ void Patch_Load() {
   Patch_Layout();
   Patch_Show();
   Blink_Phase = 0;
-  Active_Ctl = &Patch.Portamento_Time;
+  Ctl_Select(&Patch.Portamento_Time);
 }
 
 void Patch_Unload() {

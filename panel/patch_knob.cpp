@@ -18,7 +18,7 @@ void Turn(const Patch_Knob& knob, int value, const Knob_Circle& circle) {
 void Wire_Patch_Knob(const Patch_Knob& knob, Picture_Box& element, int (*key_value)(int value, int key_code),
                      Knob_Circle (*key_circle)()) {
   Mark_On_Focus(element, knob.dot);
-  element.on_key_down = [=](Key_Event& key) { Turn(knob, key_value(knob.value(), key.code), key_circle()); };
+  On_Key(element, [=](int key_code) { Turn(knob, key_value(knob.value(), key_code), key_circle()); });
   element.on_mouse_down = [knob](const Mouse_Event&) { knob.set(knob.value()); };
   element.on_mouse_move = [knob](const Mouse_Event& event) {
     if (event.button == 0) return;

@@ -1,5 +1,6 @@
 #include "panel/patch_lights.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
@@ -10,6 +11,9 @@
 #include "windows/focus_mark.h"
 #include "windows/patch_window.h"
 #include "windows/pictures.h"
+
+int Key_Mode_Sel = 0;
+int After_Touch_Sel = 0;
 
 namespace {
 
@@ -34,16 +38,29 @@ Picture_Box& Selected(const Light_Group& group) {
   return group.items[static_cast<std::size_t>(group.selection)];
 }
 
-void Light(const Light_Group& group, int item) {
+Picture_Box& Lit(const Light_Group& group) {
+  return group.items[static_cast<std::size_t>(Patch_Control_Top(group.index))];
+}
+
+bool Is_Selected(const Light_Group& group) {
+  return std::ranges::any_of(group.items, [](const Picture_Box& light) { return &light == Active_Ctl; });
+}
+
+void Light(const Light_Group& group, Picture_Box& item) {
   for (Picture_Box& light : group.items) light.picture = LED(LED_Dark);
-  group.items[static_cast<std::size_t>(item)].picture = LED(LED_Red);
+  item.picture = LED(LED_Red);
+}
+
+// The mark goes along: beside the light it would be a second one.
+void Show_Group(const Light_Group& group) {
+  if (Is_Selected(group)) Ctl_Select(&Lit(group));
+  Light(group, Lit(group));
 }
 
 void Choose_Item(const Light_Group& group, int item) {
-  Ctl_Deselect();
   group.selection = item;
-  Active_Ctl = &Selected(group);
-  Light(group, item);
+  Ctl_Select(&Selected(group));
+  Light(group, Selected(group));
   Patch_SetValue(group.index, group.values[static_cast<std::size_t>(item)]);
 }
 
@@ -77,7 +94,7 @@ void Group_Key(const Light_Group& group, Key_Event& key) {
 
 void Wire_Item(const Light_Group& group, int item) {
   Picture_Box& light = group.items[static_cast<std::size_t>(item)];
-  light.on_got_focus = [&group] { Active_Ctl = &Selected(group); };
+  light.on_got_focus = [&group] { Ctl_Select(&Lit(group)); };
   light.on_lost_focus = Ctl_Deselect;
   light.on_click = [&group, item] { Choose_Item(group, item); };
   light.on_key_down = [&group](Key_Event& key) { Group_Key(group, key); };
@@ -93,5 +110,5 @@ void Patch_Lights_Wire() {
 }
 
 void Patch_Lights_Show() {
-  for (const Light_Group& group : Groups) Light(group, Patch_Control_Top(group.index));
+  for (const Light_Group& group : Groups) Show_Group(group);
 }

@@ -3,6 +3,10 @@
 // it.
 #pragma once
 
+// The items, 0-based, that were chosen last: a key goes on from there, whatever a tone has lit since.
+extern int Key_Mode_Sel;     // [0, 5]
+extern int After_Touch_Sel;  // [0, 3]
+
 // Fills the event slots of both groups.
 void Patch_Lights_Wire();
 

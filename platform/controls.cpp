@@ -16,6 +16,10 @@ Control::Control(Control& owner_container, Kind control_kind, std::string_view c
   form.controls.push_back(this);
 }
 
+bool Blinks(const Control& control) {
+  return control.kind == Kind::Picture_Box && static_cast<const Picture_Box&>(control).blinks;
+}
+
 void Control::Place(int left_px, int top_px, int width_px, int height_px) {
   left = left_px;
   top = top_px;

@@ -85,6 +85,9 @@ struct Picture_Box final : Control {
   std::function<bool()> is_on;  // of a light
 };
 
+// Whether the control shows by itself that it has the focus.
+bool Blinks(const Control& control);
+
 enum class Alignment { Left, Center };
 
 struct Label final : Control {

@@ -5,6 +5,9 @@ namespace Key {
 constexpr int Backspace = 8;
 constexpr int Tab = 9;
 constexpr int Enter = 13;
+constexpr int Shift = 16;
+constexpr int Ctrl = 17;
+constexpr int Alt = 18;  // and AltGr
 constexpr int Pause = 19;
 constexpr int Escape = 27;
 constexpr int Space = 32;
@@ -20,6 +23,7 @@ constexpr int Insert = 45;
 constexpr int Delete = 46;
 constexpr int Digit_0 = 48;   // digits run on to 57
 constexpr int Letter_A = 65;  // letters run on to 90
+constexpr int Super = 91;
 constexpr int Keypad_0 = 96;  // keypad digits run on to 105
 constexpr int Keypad_Plus = 107;
 constexpr int Keypad_Minus = 109;
@@ -27,6 +31,11 @@ constexpr int F1 = 112;  // function keys run on to 123
 constexpr int F4 = 115;
 constexpr int F6 = 117;
 }  // namespace Key
+
+// Keys that do nothing alone.
+constexpr bool Is_Modifier(int key_code) {
+  return (key_code >= Key::Shift && key_code <= Key::Alt) || key_code == Key::Super;
+}
 
 // Bits of the shift state.
 constexpr int Shift_Key = 1;

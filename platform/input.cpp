@@ -65,6 +65,10 @@ bool Run_Window_Key(Form& form, const Key_Event& key) {
   return true;
 }
 
+bool Opens_Menu(const Form& form, const Key_Event& key) {
+  return form.role != Form_Role::Independent && Menu_Opened_By(key) != nullptr;
+}
+
 std::string_view Caption_Of(const Control& control) {
   switch (control.kind) {
     case Kind::Label:
@@ -168,10 +172,11 @@ bool Ordinary_Work(Form& form, Control* control, const Key_Event& key) {
 
 bool Key_Down(Form& form, Control* control, Key_Event key, int character) {
   if (!form.enabled()) return true;
+  if (Is_Modifier(key.code)) return false;
   if (Run_Shortcut(form, key) || Run_Window_Key(form, key)) return true;
   const bool form_first = form.key_preview || control == nullptr;
   if (form_first) Run(form.on_key_down, key);
-  if (key.code != 0 && control != nullptr) Run(control->on_key_down, key);
+  if (key.code != 0 && control != nullptr && !Opens_Menu(form, key)) Run(control->on_key_down, key);
   if (key.code == 0 || !form.Loaded()) return true;
   if (character != 0) {
     if (form_first) Run(form.on_key_press, character);

@@ -11,7 +11,8 @@
 // A key went down in the form while the control (nullptr: none) has the focus. character is what it types, 0
 // for none. In order: menu shortcuts and the keys that change and close windows (Ctrl+Tab, Ctrl+F6, Ctrl+F4),
 // the form if it sees keys first, the control, the key press, the ordinary work (Tab, default and cancel
-// button, access key). Returns true if the key has been used up: a text field must not see it.
+// button, access key). A modifier alone reaches nobody, a key that opens a menu no control. Returns true if
+// the key has been used up: a text field must not see it.
 bool Key_Down(Form& form, Control* control, Key_Event key, int character);
 
 // A button went down on the control. A disabled form takes it as a click on the frame; else the form becomes

@@ -8,6 +8,7 @@
 #include "platform/property.h"
 
 struct Form;
+struct Key_Event;
 
 struct Menu_Item final : Component {
   // caption: "&" marks the access key, "-" alone is a separator. shortcut: "Ctrl+N", "F1" or empty.
@@ -31,6 +32,9 @@ struct Menu_Item final : Component {
 
 // Whether the item can be chosen: it and everything above it is visible and enabled.
 bool Can_Choose(const Menu_Item& item);
+
+// The menu of the bar that the key opens, by Alt and its access key; nullptr for none.
+Menu_Item* Menu_Opened_By(const Key_Event& key);
 
 // The user chose the item, or opened it. Nothing happens if it cannot be chosen.
 void Choose(Menu_Item& item);

@@ -7,6 +7,7 @@
 #include "platform/runtime_error.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_display.h"
+#include "sequencer/seq_transport.h"
 #include "windows/frame_window.h"
 #include "windows/state.h"
 
@@ -38,18 +39,15 @@ void Wrap(int& step) {
   if (step == -1 || step == Seq_Step_Count) step = Seq_Direction == Backward ? Last_Step : 0;
 }
 
-void Play_Step() {
-  Wrap(Seq_Step);
-  Wrap(Seq_Prev_Step);
-  Seq_Clock_Show(Seq_Prev_Step, false);
-  Seq_Clock_Show(Seq_Step, true);
-  Seq_Send_Step(Seq_Step);
+void Move_On() {
   Seq_Prev_Step = Seq_Step;
   if (Seq_Direction == Backward) {
     Seq_Step_Back(Seq_Step);
   } else {
     Seq_Step_Forward(Seq_Step);
   }
+  if (Seq_Mode == Play_Mode::Bounce && At_End()) Seq_Direction = 1 - Seq_Direction;
+  if (Seq_Mode == Play_Mode::Random_Step) Seq_Step = Draw(Random_Steps);
 }
 
 }  // namespace
@@ -67,9 +65,13 @@ void Seq_Step_Back(int& step) { --step; }
 
 void Seq_Tick() {
   if (Draws_Direction()) Seq_Direction = Draw(2);
-  Play_Step();
-  if (Seq_Mode == Play_Mode::Bounce && At_End()) Seq_Direction = 1 - Seq_Direction;
-  if (Seq_Mode == Play_Mode::Random_Step) Seq_Step = Draw(Random_Steps);
+  Wrap(Seq_Step);
+  Wrap(Seq_Prev_Step);
+  Seq_Clock_Show(Seq_Prev_Step, false);
+  Seq_Clock_Show(Seq_Step, true);
+  const int step = Seq_Step;
+  Move_On();
+  Seq_Send_Step(step);  // last, since a note that fails stops the clock
 }
 
 int Seq_Interval_ms(int speed) {
@@ -82,4 +84,9 @@ int Seq_Interval_ms(int speed) {
 
 void Seq_Interval_Set() { MELVOR.Seq_Tmr.interval_ms = Seq_Interval_ms(Seq_Speed); }
 
-void Seq_Clock_Wire() { MELVOR.Seq_Tmr.on_tick = Seq_Tick; }
+void Seq_Clock_Wire() {
+  MELVOR.Seq_Tmr.on_tick = Seq_Tick;
+  MIDI_Lost = [] {
+    if (MELVOR.Seq_Tmr.enabled()) Seq_Stop_Clock();
+  };
+}

@@ -1,7 +1,7 @@
 // The clock: one tick of Seq_Tmr plays one step of the matrix and moves on.
 #pragma once
 
-// Fills the tick of Seq_Tmr. Called once by the frame at start.
+// Fills the tick of Seq_Tmr and the notice MIDI_Lost. Called once by the frame at start.
 void Seq_Clock_Wire();
 
 // Plays one step: draws the direction where the mode wants it, shows the position if the Sequencer is open,

@@ -7,6 +7,7 @@
 #include "sequencer/model.h"
 #include "sequencer/seq_display.h"
 #include "windows/editor_window.h"
+#include "windows/file_dlg_window.h"
 #include "windows/frame_window.h"
 #include "windows/pictures.h"
 #include "windows/sequencer_window.h"
@@ -22,26 +23,20 @@ void Start_Clock(int first_step) {
   Seq_Running = Flag_On;
 }
 
-void Stop_Timer() {
-  MELVOR.Seq_Tmr.enabled = false;
-  Seq_Step = 0;
-}
-
-void Close_And_Mark_Stopped() {
+void Silence_And_Close() {
+  MIDI_Reset();
   MIDI_Out_Close();
-  Seq_Running = Flag_Off;
-  Seq_Start_Faces_Up();
-}
-
-// The step played last and the one to come, as forward play leaves them.
-void Dark_Around_Step() {
-  const int last = Seq_Step == 0 ? Seq_Step_Count - 1 : Seq_Step - 1;
-  const int next = Seq_Step == Seq_Step_Count ? 0 : Seq_Step;
-  if (Seq_Step >= 0) Seq_Clock_Show(last, false);
-  Seq_Clock_Show(next < 0 ? 0 : next, false);
 }
 
 }  // namespace
+
+void Seq_Stop_Clock() {
+  MELVOR.Seq_Tmr.enabled = false;
+  Seq_Running = Flag_Off;
+  Seq_Step = 0;
+  Seq_Clock_Dark();
+  Seq_Start_Faces_Up();
+}
 
 void ED_Seq_Start_Click() {
   if (Seq_Loaded != Flag_On && Seq_Saved != Flag_Off) return;
@@ -52,11 +47,9 @@ void ED_Seq_Start_Click() {
 
 void ED_Seq_Stop_Click() {
   if (Receive_On != 0) return Tone_Receive_Toggle();
-  Stop_Timer();
-  Seq_Clock_Dark();
+  Seq_Stop_Clock();
   Editor.Keys_Pic.picture = Buttons(Keyboard_Up);
-  MIDI_Reset();
-  Close_And_Mark_Stopped();
+  Silence_And_Close();
 }
 
 void Seq_Start_Click() {
@@ -68,11 +61,8 @@ void Seq_Start_Click() {
 }
 
 void Seq_Stop_Click() {
-  Stop_Timer();
-  Seq_Clock_Dark();
+  Seq_Stop_Clock();
   Seq_SendAllNotesOff();
-  Seq_Running = Flag_Off;
-  Push_Up(Sequencer.Seq_Start);
   ED_Seq_Stop_Click();
   Push_Up(Editor.ED_Seq_Stop);
 }
@@ -84,33 +74,25 @@ void Seq_Start_Play() {
 }
 
 void Seq_Stop_Play() {
-  MELVOR.Seq_Tmr.enabled = false;
-  Dark_Around_Step();
-  Seq_Step = 0;
-  Close_And_Mark_Stopped();
+  Seq_Stop_Clock();
+  MIDI_Out_Close();
 }
 
 void Seq_Stop_For_Tone_Menu() {
   if (!MELVOR.Seq_Tmr.enabled()) return;
-  Stop_Timer();
-  MIDI_Reset();
-  Close_And_Mark_Stopped();
+  Seq_Stop_Clock();
+  Silence_And_Close();
 }
 
 void Seq_Stop_For_Setup() {
   if (!MELVOR.Seq_Tmr.enabled()) return;
-  Stop_Timer();
+  Seq_Stop_Clock();
   MIDI_Reset();
-  Seq_Running = Flag_Off;
-  Seq_Start_Faces_Up();
 }
 
 void Menu_MIDI_CloseOutput() {
   MIDI_Reset();
-  if (MELVOR.Seq_Tmr.enabled()) {
-    Stop_Timer();
-    Close_And_Mark_Stopped();
-  }
+  if (MELVOR.Seq_Tmr.enabled()) Seq_Stop_Clock();
   MIDI_Out_Close_Wholly();
 }
 
@@ -122,6 +104,9 @@ void Seq_Start_Faces_Down() {
 void Seq_Start_Faces_Up() {
   Push_Up(Editor.ED_Seq_Start);
   if (Seq_Open == Flag_On) Push_Up(Sequencer.Seq_Start);
+  if (!File_Dlg.Loaded()) return;
+  Push_Up(File_Dlg.FD_SYX_Button_Start);
+  Push_Up(File_Dlg.FD_SEQ_Button_Start);
 }
 
 void Seq_Start_Release() {

@@ -1,8 +1,12 @@
 // Starting and stopping the clock: every place that does so, and the buttons that show it.
-// Called by the buttons of the Editor, the Sequencer and the file dialog, by menus, and by windows that
-// close. Each stop ends with Seq_Tmr off, Seq_Running off, and All Notes Off sent: notes are ended by nothing
-// else.
+// Called by the buttons of the Editor, the Sequencer and the file dialog, by menus, by windows that close,
+// and where MIDI is lost. Each stop goes through Seq_Stop_Clock and, but for that last one, sends All Notes
+// Off: notes are ended by nothing else.
 #pragma once
+
+// The clock itself, running or not: Seq_Tmr and Seq_Running off, at step 0, all indicators dark, all start
+// buttons up. Sends nothing.
+void Seq_Stop_Clock();
 
 // The Editor's buttons. Start does nothing without a sequence, loaded or drawn; it takes step 0 in every
 // direction. Stop ends the wait for a tone instead, while that runs; else it closes the output too.
@@ -26,7 +30,8 @@ void Seq_Stop_For_Setup();
 // The menu command that closes the output, with or without a running clock.
 void Menu_MIDI_CloseOutput();
 
-// The start buttons of the Editor and, if it is open, of the Sequencer go down and up together.
+// The start buttons of the Editor and, if it is open, of the Sequencer go down together; up go those of an
+// open file dialog too.
 void Seq_Start_Faces_Down();
 void Seq_Start_Faces_Up();
 // A start button was released: it springs back unless the clock runs.

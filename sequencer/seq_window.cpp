@@ -188,9 +188,8 @@ void Window_Load() {
 
 // The clock stops in any case, also where the Editor's stop only ends the wait for a tone.
 void Window_Query_Unload(bool&) {
-  MELVOR.Seq_Tmr.enabled = false;
+  Seq_Stop_Clock();
   ED_Seq_Stop_Click();
-  Seq_Running = Flag_Off;
   Seq_SendAllNotesOff();
   if (Sequencer.Seq_Range.index() >= 0) Seq_Range_Index = Sequencer.Seq_Range.index();
   if (MELVOR.Menu_Windows_SavePos.checked()) {

@@ -3,20 +3,18 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/form.h"
 #include "platform/text.h"
 #include "windows/editor_window.h"
 #include "windows/help_window.h"
 #include "windows/patch_window.h"
 #include "windows/pictures.h"
-#include "windows/state.h"
 
 Picture_Box* Active_Ctl = nullptr;
 Picture_Box* Saved_Ctl = nullptr;
 int Blink_Phase = 0;
 int Help_Context = 0;
 int Knob_Last_X = 0;
-int Key_Mode_Sel = 0;
-int After_Touch_Sel = 0;
 
 namespace {
 
@@ -63,11 +61,12 @@ void Show_Caret(const Picture_Box& caret, int phase) {
   }
 }
 
-// A light that rests is dark, but the chosen ones of the Patch window stay lit.
-void Light_Chosen() {
-  if (Patch_Open != Flag_On) return;
-  Patch.After_Touch[static_cast<std::size_t>(After_Touch_Sel)].picture = LED(LED_Red);
-  Patch.Key_Mode[static_cast<std::size_t>(Key_Mode_Sel)].picture = LED(LED_Red);
+bool Is_Lit(const Picture_Box& light) { return light.is_on && light.is_on(); }
+
+// Elsewhere the frame around the focused control shows where the focus is.
+bool Focused_Blinks() {
+  const Control* focused = Focused_Control();
+  return focused != nullptr && Blinks(*focused);
 }
 
 }  // namespace
@@ -75,6 +74,7 @@ void Light_Chosen() {
 void Ctl_Blink() {
   if (Active_Ctl == nullptr) return;
   Help_Context = Active_Ctl->help_context;
+  if (!Focused_Blinks()) return;
   const std::string tag = Active_Ctl->tag();
   if (tag == Caret_Tag) Show_Caret(*Active_Ctl, Blink_Phase);
   if (const Mark_Row* row = Row_Of(tag)) Show_Mark(*row, Blink_Phase);
@@ -85,11 +85,15 @@ void Ctl_Deselect() {
   if (Active_Ctl == nullptr) return;
   const Mark_Row* row = Row_Of(Lower(Active_Ctl->tag()));
   if (row == nullptr) return;
-  Show_Mark(*row, 0);
-  if (row->tag == Light_Tag) Light_Chosen();
+  Show_Mark(*row, row->tag == Light_Tag && Is_Lit(*Active_Ctl) ? LED_Red - LED_Dark : 0);
+}
+
+void Ctl_Select(Picture_Box* element) {
+  Ctl_Deselect();
+  Active_Ctl = element;
 }
 
 void Mark_On_Focus(Picture_Box& element, Picture_Box& mark) {
-  element.on_got_focus = [&mark] { Active_Ctl = &mark; };
+  element.on_got_focus = [&mark] { Ctl_Select(&mark); };
   element.on_lost_focus = Ctl_Deselect;
 }

@@ -61,7 +61,7 @@ void Dlg_Leave() {
   Do_All_Events();
   Active_Dlg.clear();
   Menus_Enable();
-  Active_Ctl = Saved_Ctl;
+  Ctl_Select(Saved_Ctl);
   if (Active_Ctl != nullptr) Set_Focus(*Active_Ctl);
   Select_Focused();
   Editor.Timer1.enabled = true;

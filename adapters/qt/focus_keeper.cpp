@@ -17,10 +17,6 @@ bool Menu_Has_Keys() {
          qobject_cast<QMenuBar*>(QApplication::focusWidget()) != nullptr;
 }
 
-bool Blinks(const Control& control) {
-  return control.kind == Kind::Picture_Box && static_cast<const Picture_Box&>(control).blinks;
-}
-
 }  // namespace
 
 void Focus_Keeper::Follow() {

@@ -7,7 +7,6 @@
 #include "adapters/qt/shell.h"
 #include "platform/dispatch.h"
 #include "platform/input.h"
-#include "platform/text.h"
 
 Menu_Item_View::Menu_Item_View(Shell& the_shell, Menu_Item& the_item, QWidget& parent)
     : shell(the_shell), item(the_item) {
@@ -91,12 +90,9 @@ Menu_Bar::Menu_Bar(Shell& shell, Form& frame, QMainWindow& window) : bar_(window
 }
 
 bool Menu_Bar::Open(const Key_Event& key) {
-  if (key.shift != Alt_Key || key.code == 0) return false;
+  const Menu_Item* menu = Menu_Opened_By(key);
   for (const auto& view : items_) {
-    if (view->menu == nullptr || !Can_Choose(view->item) || Access_Key(view->item.caption()) != key.code)
-      continue;
-    bar_->setActiveAction(view->action);
-    return true;
+    if (&view->item == menu) bar_->setActiveAction(view->action);
   }
-  return false;
+  return menu != nullptr;
 }

@@ -1,12 +1,16 @@
-"""Slider, knob, switch, little keyboard and display of the panel, moved by a real mouse and real keys, byte for byte on
-the wire; at two pixels a point. An order to end answers the question about the changed tone."""
+"""Slider, knob, switch, little keyboard, lights and display of the panel, moved by a real mouse and real keys, byte for
+byte on the wire and as the screen shows them; at two pixels a point. An order to end answers the question about the changed tone."""
 
 from harness.laws import check_drag, check_slider, slider_height, values_of
 from harness.machine import wait_until
 from harness.program import Session
-from harness.wire import All_notes_off, note, tone
+from harness.wire import All_notes_off, empty_record, note, tone, tone_file
 
 Cutoff = "VCF cutoff frequency"
+Envelopes = [f"Envelope {number} {stage}" for number in (1, 2)
+             for stage in ("attack time", "decay time", "sustain level", "release time")]
+Key_modes = ["poly 1", "unison 1", "solo 1", "poly 2", "unison 2", "solo 2"]
+Lit_tone = "C:\\LIGHTS.SYX"
 Lowest_of_semitones = [56, *range(72, 96, 4), 96, *range(104, 124, 4)]  # the knob's bytes from 0 to 12
 
 
@@ -79,11 +83,53 @@ def chord(session):
     session.wire.expect(All_notes_off)
 
 
+def marks(session):
+    """Of eight sliders the one with the focus blinks, and none any more once the little keyboard has it."""
+    screen = session.screen
+    rest = {name: screen.pixels(name) for name in Envelopes}
+    for name in Envelopes:
+        screen.click(name)
+        wait_until(lambda: screen.pixels(name) != rest[name], f"the blink of {name}")
+        screen.click("Play a chord", button=3)
+        session.wire.take_to(All_notes_off)
+        wait_until(lambda: screen.pixels(name) == rest[name], f"{name} at rest")
+    while screen.text("Tone name"):  # the value of the last one stays for a second
+        assert screen.pixels(name) == rest[name], name
+    assert {name: screen.pixels(name) for name in Envelopes} == rest
+
+
+def lights(session):
+    """A tone lights another one than that which was chosen last. A group shows one, or none while that one blinks."""
+    screen = session.screen
+    screen.menu("Tone", "Patch...")
+    dark = screen.pixels("Key mode solo 1")
+    screen.click("Key mode solo 1")
+    wait_until(lambda: screen.pixels("Key mode solo 1") != dark, "the light")
+    screen.menu("File", "Tone", f"1 {Lit_tone}")
+    wait_until(lambda: screen.text("Tone name") == "LIGHTS", "the tone")
+
+    def lit():
+        return [mode for mode in Key_modes if screen.pixels(f"Key mode {mode}") != dark]
+
+    blinking = []
+    wait_until(lambda: blinking.append(lit()) or {(), ("unison 2",)} <= {*map(tuple, blinking)}, lambda: blinking)
+    assert all(modes in ([], ["unison 2"]) for modes in blinking), blinking
+    screen.key("Tab")
+    assert screen.focus() == "After touch off" and lit() == ["unison 2"], lit()
+    screen.key("Escape")
+    screen.click("Play a chord", button=3)
+    session.wire.take_to(All_notes_off)
+
+
 def main():
-    with Session("panel", scale=2, screen=(2560, 2048)) as session:
+    session = Session("panel", {"Recent Files": {"Tone1": Lit_tone}}, scale=2, screen=(2560, 2048))
+    (session.machine.home / "lights.syx").write_bytes(tone_file(empty_record("LIGHTS"), (0, 0, 0, 5, 0, 0, 64)))
+    with session:
+        marks(session)
         slider(session)
         display(session)
         knob(session)
+        lights(session)
         switch(session)
         chord(session)
         session.screen.menu("File", "Exit")

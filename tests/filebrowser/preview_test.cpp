@@ -70,6 +70,11 @@ TEST_F(Preview_Test, A_Clicked_Sequence_Is_Drawn_And_Plays_From_Its_Start) {
   EXPECT_FALSE(MELVOR.Seq_Tmr.enabled()) << "autoplay is off";
   desktop.Click(File_Dlg.FD_SEQ_Button_Start);
   EXPECT_TRUE(MELVOR.Seq_Tmr.enabled());
+  service.Fail_Next("Out_Short", 68);
+  desktop.Expect_Box(Answer::Ok);
+  desktop.Advance_ms(125);
+  EXPECT_FALSE(MELVOR.Seq_Tmr.enabled());
+  EXPECT_EQ(File_Dlg.FD_SEQ_Button_Start.picture(), Button_Up3D);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "panel/push_buttons.h"
 #include "windows/modal.h"
 #include "windows/patch_window.h"
+#include "windows/pictures.h"
 
 namespace {
 
@@ -63,6 +64,26 @@ TEST_F(Elements, What_Has_The_Focus_Moves_Though_Nothing_Or_Something_Closed_Is_
     Dlg_Leave();
     EXPECT_EQ(Active_Ctl, &cutoff) << "where the focus has stayed";
   }
+}
+
+TEST_F(Elements, What_Has_The_Focus_Blinks_And_Nothing_Else) {
+  std::string seen;
+  const auto look = [&](const char* what) {
+    for (int phase = 0; phase < 2; ++phase) {
+      desktop.Advance_ms(250);
+      for (Picture_Box* cap : {&Editor.ENV1_Attack, &Editor.ENV1_Decay, &Editor.ENV1_Sustain}) {
+        if (cap->picture() != Buttons(Slider_Cap)) seen += what + std::string(cap->name.substr(5)) + " ";
+      }
+    }
+  };
+  for (Picture_Box* cap : {&Editor.ENV1_Attack, &Editor.ENV1_Decay, &Editor.ENV1_Sustain}) {
+    desktop.Click(*cap);
+    look("");
+    desktop.Advance_ms(250);  // it may be dark as the focus goes
+    desktop.Click(Editor.Keys_Pic);
+    look("after ");
+  }
+  EXPECT_EQ(seen, "Attack Decay Sustain ");
 }
 
 TEST_F(Elements, A_Held_Space_Bar_Presses_Once) {

@@ -1,6 +1,9 @@
 #include "panel/patch.h"
 
+#include <set>
+
 #include "panel/editor_fixture.h"
+#include "panel/patch_lights.h"
 #include "panel/patch_mks70.h"
 #include "windows/patch_mks70_window.h"
 #include "windows/patch_window.h"
@@ -61,6 +64,9 @@ TEST_F(Patch_Test, Keys_Move_Each_Kind_By_Its_Own_Rule) {
     Key_On(range, key);
     Key_On(portamento, key);
   }
+  for (const int key : {Key::Ctrl, Key::Tab}) {
+    for (Picture_Box* element : {&time, &portamento, &knob, &dot}) Key_On(*element, key);
+  }
   EXPECT_TRUE(Sent().empty());
 }
 
@@ -109,6 +115,28 @@ TEST_F(Patch_Test, Lights_Are_Chosen_By_Click_And_Key) {
   EXPECT_EQ(Lit(Patch.After_Touch) + Lit(Patch.Key_Mode), "04") << "the other group keeps its light";
 }
 
+TEST_F(Patch_Test, A_Group_Shows_One_Light_Though_A_Tone_Has_Lit_Another_Than_The_Chosen_One) {
+  desktop.Click(Patch.After_Touch[1]);
+  desktop.Click(Patch.Key_Mode[1]);
+  for (Picture_Box* focused : {&Patch.Key_Mode[1], &Patch.After_Touch[1], &Patch.UDTune}) {
+    EXPECT_EQ(Focused_Control(), focused);
+    Have(3, 6);
+    Have(4, 4);
+    std::set<std::string> seen;
+    for (int phase = 0; phase < 2; ++phase) {
+      desktop.Advance_ms(250);
+      seen.insert(Lit(Patch.Key_Mode) + " " + Lit(Patch.After_Touch));
+    }
+    const char* dark = focused == &Patch.UDTune ? "5 3" : focused == &Patch.Key_Mode[1] ? " 3" : "5 ";
+    EXPECT_EQ(seen, (std::set<std::string>{"5 3", dark})) << focused->name;
+    desktop.Key(Key::Tab);
+  }
+  Sent();
+  Set_Focus(Patch.Key_Mode[1]);
+  desktop.Key(Key::Down);
+  EXPECT_EQ(Sent(), Texts{Message(3, 2)}) << "from the item that was chosen";
+}
+
 TEST_F(Patch_Test, Tab_Walks_The_Groups_Forward_Even_With_Shift) {
   desktop.Click(Patch.Key_Mode[2]);
   desktop.Click(Patch.After_Touch[1]);
@@ -129,7 +157,7 @@ TEST_F(Editor_Fixture, On_The_MKS70_What_Is_Changed_Goes_To_The_Tone_That_Is_Sho
   for (Picture_Box* tone : {&panel.Tone_A, &panel.Tone_B_Pic}) {
     desktop.Click(*tone);
     User_Selected(panel.Split_Point, tone == &panel.Tone_A ? 87 : 39);
-    for (const int key : {Key::Home, Key::Keypad_Minus}) Key_On(panel.UDTune, key);
+    for (const int key : {Key::Home, Key::Ctrl, Key::Tab, Key::Keypad_Minus}) Key_On(panel.UDTune, key);
   }
   const std::string head = "F0 41 36 00 21 30 01 ";
   EXPECT_EQ(Sent(), (Texts{head + "20 7F F7", head + "20 7E F7", head + "29 7F F7", head + "29 7E F7"}));

@@ -1,10 +1,16 @@
 
+#include <algorithm>
+
+#include "midi/output.h"
 #include "platform/chance.h"
+#include "sequencer/seq_pictures.h"
 #include "sequencer/sequencer_fixture.h"
 
 namespace {
 
 using Steps = std::vector<int>;
+
+bool Is_Dark(const Picture_Box& indicator) { return indicator.picture() == Indicator_Dark; }
 
 TEST_F(Sequencer_Test, A_Tick_Sends_All_Rows_From_The_Top_Whatever_They_Hold) {
   MIDI_Channel = 16;
@@ -30,9 +36,7 @@ TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Sile
   desktop.Advance_ms(250);
   EXPECT_EQ(desktop.boxes.size(), 2U);
   EXPECT_EQ(MIDI_Enabled, 0);
-  MIDI_Enabled = 1;
-  MIDI_SendNote(60, 1);
-  EXPECT_EQ(desktop.boxes.size(), 4U) << "the tick inside the close tells nothing more";
+  EXPECT_EQ(Seq_Step, 0) << "the clock has stopped";
 }
 
 TEST_F(Sequencer_Test, Each_Mode_Walks_Its_Way) {
@@ -69,7 +73,8 @@ TEST_F(Sequencer_Test, Random_Modes_Reach_What_They_May) {
   }
 }
 
-TEST_F(Sequencer_Test, Every_Way_To_Stop_Ends_Clock_And_Notes) {
+TEST_F(Sequencer_Test, Every_Way_To_Stop_Ends_Clock_And_Notes_And_Shows_It) {
+  desktop.on_other_box = [] { return Answer::Ok; };
   using Row = std::tuple<const char*, void (*)(), bool>;
   for (const auto& [name, stop, closes] : {Row{"Editor", ED_Seq_Stop_Click, true},
                                            {"window", Seq_Stop_Click, true},
@@ -77,6 +82,7 @@ TEST_F(Sequencer_Test, Every_Way_To_Stop_Ends_Clock_And_Notes) {
                                            {"tone menu", Seq_Stop_For_Tone_Menu, true},
                                            {"setup", Seq_Stop_For_Setup, false},
                                            {"close output", Menu_MIDI_CloseOutput, true},
+                                           {"MIDI lost", [] { MIDI_Out_Error(68, ""); }, true},
                                            {"closing the window", [] { Unload(Sequencer); }, false}}) {
     SCOPED_TRACE(name);
     Seq_Data[0] = 127;
@@ -89,6 +95,12 @@ TEST_F(Sequencer_Test, Every_Way_To_Stop_Ends_Clock_And_Notes) {
     EXPECT_EQ(Sent(), Texts());
     EXPECT_TRUE(Seq_Running == Flag_Off && Seq_Step == 0);
     EXPECT_EQ(service.Out_Is_Open(), !closes);
+    EXPECT_EQ(Editor.ED_Seq_Start.picture(), Button_Up3D);
+    if (Sequencer.Loaded()) {
+      EXPECT_EQ(Sequencer.Seq_Start.picture(), Button_Up3D);
+      EXPECT_TRUE(std::ranges::all_of(Sequencer.Seq_Clock, Is_Dark));
+    }
+    MIDI_Enabled = 1;
     Unload(Sequencer);
   }
 }

@@ -68,6 +68,8 @@ TEST(Keys, Codes_Shift_States_And_Characters) {
         {Qt::Key_Backtab, Qt::ShiftModifier, "", 9, Shift_Key, 9},
         {Qt::Key_Enter, Qt::KeypadModifier, "\r", 13, 0, 13},
         {Qt::Key_Delete, {}, "\x7f", 46, 0, 0},
+        {Qt::Key_AltGr, {}, "", 18, 0, 0},
+        {Qt::Key_Super_L, {}, "", 91, 0, 0},
         {Qt::Key_Adiaeresis, {}, "ä", Other_Key, 0, 0xe4}}) {
     const QKeyEvent event(QEvent::KeyPress, key, modifiers, QString::fromUtf8(text));
     EXPECT_EQ(std::tuple(Key_Of(event).code, Key_Of(event).shift, Character_Of(event)),

@@ -84,6 +84,11 @@ class Screen:
         """Left, top, width and height."""
         return _extents(self.element(name))
 
+    def pixels(self, name):
+        """What the screen shows of the element, as text that can be compared."""
+        left, top, width, height = (side * self._scale for side in self.place(name))
+        return self._machine.run("import", "-window", "root", "-crop", f"{width}x{height}+{left}+{top}", "txt:-")
+
     def value(self, name):
         """What the element says of its value."""
         return self.element(name).get_description()
