@@ -54,7 +54,7 @@ TEST_F(Display_Test, The_Prompt_Waits_For_Its_Answer) {
   for (const auto& [answer, result] :
        {Row{[&] { desktop.Key(Key::Enter, 0, 13); }, "second"}, Row{[] { User_Closes(Input_Dlg); }, ""},
         Row{[] { Unload(MELVOR); }, ""}}) {  // the end of the program ends the wait
-    desktop.At_Wait([&] {
+    desktop.At_Wait([this, &answer = answer] {
       EXPECT_EQ(Plain_Caption(Input_Dlg.Input_Msg.caption()), "One\rtwo\rR&D");
       desktop.Type(Input_Dlg.Input_Textbox, "second");
       answer();
