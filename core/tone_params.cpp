@@ -24,6 +24,20 @@ constexpr std::uint8_t Fine_Tune_Centre = 64;
 // Whether the byte is not the first one of its UTF-8 character.
 bool Continues_Character(std::uint8_t byte) { return (byte & 0xC0) == 0x80; }
 
+// One character a byte, whatever the bytes would make together.
+std::string Name_Of_Bytes() {
+  std::string name;
+  for (int index = 0; index < Tone_Name_Length; ++index) {
+    const std::uint8_t byte = Tone[index];
+    if (byte <= Highest_Character) {
+      name += static_cast<char>(byte);
+    } else {
+      name += {static_cast<char>(0xC0 | byte >> 6), static_cast<char>(0x80 | (byte & 0x3F))};
+    }
+  }
+  return name;
+}
+
 void Show_Value(int index, int value) {
   if (index == Index_DCO1_Tune || index == Index_DCO2_Tune) {
     Display_Value(Semitone_12(value));
@@ -73,8 +87,7 @@ void Tone_Param_Set(int index, int value) {
 }
 
 void Tone_Show() {
-  const std::string name(Tone.bytes.begin(), Tone.bytes.begin() + Tone_Name_Length);
-  Tone_Name_Str = Upper(Trim(name));
+  Tone_Name_Str = Upper(Trim(Name_Of_Bytes()));
   Editor.Tone_Name.Set_Text(Tone_Name_Str);
   if (Tone_Shown) Tone_Shown();
 }
@@ -84,11 +97,14 @@ void Patch_Show() {
 }
 
 void Tone_Name_Store() {
-  int index = 0;
+  std::string stored;
   for (const char character : Tone_Name_Str) {
     const auto byte = static_cast<std::uint8_t>(character);
     if (Continues_Character(byte)) continue;
-    Tone[index++] = byte < Blank || byte > Highest_Character ? Blank : byte;
+    stored += byte < Blank || byte > Highest_Character ? static_cast<char>(Blank) : character;
   }
+  int index = 0;
+  for (const char character : stored) Tone[index++] = static_cast<std::uint8_t>(character);
+  Tone_Name_Str = stored;
   for (; index <= Tone_First_Parameter; ++index) Tone[index] = Blank;
 }

@@ -26,8 +26,8 @@ extern std::function<void()> Tone_Shown;
 extern std::function<void()> Patch_Shown;
 
 // Copies the characters of Tone_Name_Str into Tone, and fills with blanks up to and including index 10. A
-// character outside 32 to 127 is stored as a blank: a higher byte would break the message. A name beyond the
-// record is Runtime_Error 9.
+// character outside 32 to 127 is stored as a blank, which takes its place in Tone_Name_Str too: a higher byte
+// would break the message. A name beyond the record is Runtime_Error 9.
 void Tone_Name_Store();
 
 // Shows a value in the Editor's display and lets the name return one second later.

@@ -36,6 +36,18 @@ QString Without_Controls(QString text) {
   return text.removeIf([](QChar sign) { return sign.category() == QChar::Other_Control; });
 }
 
+// A face of the program's own has one sign for all that it lacks, of the same width as the others; to the
+// toolkit some of that would be nothing, or blanks.
+QString In_Own_Face(const QString& text, const QFont& font) {
+  const QFontMetrics metrics(font);
+  QString shown;
+  for (char32_t sign : text.toUcs4()) {
+    if (!metrics.inFontUcs4(sign)) sign = QChar::ReplacementCharacter;
+    shown += QString::fromUcs4(&sign, 1);
+  }
+  return shown;
+}
+
 QWidget& Make_Text_Widget(const Control& control, QWidget& parent) {
   if (static_cast<const Text_Box&>(control).multi_line) return *new QPlainTextEdit(&parent);
   return *new QLineEdit(&parent);
@@ -123,6 +135,7 @@ void Text_Box_View::Show_Face() {
   QFont font;
   if (!face.isEmpty()) {
     font.setFamily(face);
+    font.setStyleStrategy(QFont::NoFontMerging);
     int size_px = std::max(control.height(), 1);
     do {
       font.setPixelSize(size_px);
@@ -133,7 +146,8 @@ void Text_Box_View::Show_Face() {
 
 void Text_Box_View::Show_Line(QLineEdit& line) {
   line.setFrame(!Box().own_colors());
-  const QString text = To_Qt(Box().text());
+  QString text = To_Qt(Box().text());
+  if (!shown_face_.isEmpty()) text = In_Own_Face(text, line.font());
   if (line.text() != text) line.setText(text);
   const int start = Units_Of(text, Box().selection_start());
   const int end = Units_Of(text, Box().selection_start() + Box().selection_length());

@@ -44,9 +44,11 @@ TEST_F(Records, The_Name_Fills_Ten_Bytes_And_Blanks_The_Eleventh) {
   Tone_Name_Str = "AB\xC3\xA9\x1F~\x7F";
   Tone_Name_Store();
   EXPECT_EQ(std::string(Tone.bytes.begin(), Tone.bytes.begin() + 11), "AB  ~\x7F     ");
-  Tone_Name_Str.clear();
-  Tone_Show();
   EXPECT_EQ(Tone_Name_Str, "AB  ~\x7F");
+  Tone[2] = 0xC3;  // of a file
+  Tone[3] = 0xA9;
+  Tone_Show();
+  EXPECT_EQ(Tone_Name_Str, "AB\xC3\x83\xC2\xA9~\x7F") << "two characters";
 }
 
 }  // namespace

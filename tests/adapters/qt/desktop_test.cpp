@@ -102,6 +102,35 @@ TEST_F(Desk, Title_Bars_Are_Dark_And_A_Text_Field_Has_One_Focus_Frame) {
   Unload(other);
 }
 
+TEST_F(Desk, The_Display_Shows_All_Segments_For_What_Its_Font_Lacks_And_Nothing_Shifts) {
+  ASSERT_TRUE(desktop.Add_Font(QT_TEST_FONT));
+  text.Place(10, 100, 121, 18);
+  text.read_only = true;
+  text.own_colors = true;
+  text.font_face = std::string("MELVOR");
+  text.fore_color = White;
+  text.back_color = Black;
+  Show_Windows();
+  QWidget& display = Widget("Text");
+  const auto look = [&](std::string_view shown) {
+    text.Set_Text(shown);
+    desktop.Run_Events(Event_Set::All);
+    return display.grab().toImage();
+  };
+  const QImage unknown = look("A\xEF\xBF\xBDZ");
+  for (const char* name : {"A\xC3\xA9Z", "A\xC2\xADZ", "A\xF0\x9F\x98\x80Z", "A\x01Z", "A\xCC\x81Z"}) {
+    EXPECT_EQ(look(name), unknown) << name;
+  }
+  for (const char* name : {"A8Z", "A*Z", "AMZ", "AXZ", "AIZ"}) {
+    const QImage known = look(name);
+    for (int y = 0; y < known.height(); ++y) {
+      for (int x = 0; x < known.width(); ++x) {
+        ASSERT_GE(qGray(unknown.pixel(x, y)), qGray(known.pixel(x, y))) << name << " " << x << " " << y;
+      }
+    }
+  }
+}
+
 TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
   Show_Windows();
   for (const auto& [style, pressed, answer, escaped] :
