@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <algorithm>
 #include <cstdlib>
-#include <utility>
 
 #include "adapters/qt/control_view.h"
 #include "adapters/qt/look.h"
@@ -82,6 +81,7 @@ void Frame_Window::changeEvent(QEvent* event) {
 // The size of the decorations may change without an event of its own, so each repaint looks at it.
 bool Frame_Window::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Expose) was_seen = was_seen || windowHandle()->isExposed();
+  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress) was_used = true;
   const bool looks = event->type() == QEvent::Expose || event->type() == QEvent::UpdateRequest;
   if (looks && on_placed) on_placed();
   return QMainWindow::eventFilter(watched, event);
@@ -183,30 +183,28 @@ QRect Frame_View::Outside() const { return window_->windowHandle()->geometry().m
 void Frame_View::Window_Placed() {
   if (!window_->was_seen || !window_->isVisible() || shell.changes.Applying()) return;
   const Qt::WindowStates states = window_->windowState();
-  const bool maximized = states.testFlag(Qt::WindowMaximized);
-  shown_state_ = states.testFlag(Qt::WindowMinimized) ? Window_State::Minimized
-                 : maximized                          ? Window_State::Maximized
-                                                      : Window_State::Normal;
+  shown_state_ = states.testFlag(Qt::WindowMinimized)   ? Window_State::Minimized
+                 : states.testFlag(Qt::WindowMaximized) ? Window_State::Maximized
+                                                        : Window_State::Normal;
   form.state = shown_state_;
   if (shown_state_ == Window_State::Normal) return Normal_Window_Placed();
   if (was_normal_) may_ask_again_ = false;
-  awaits_minimized_ = false;
-  // The size of a maximized window may be reported before its state.
-  if (maximized && placed_ == Outside() && !placed_before_.isNull()) Take_Place(placed_before_);
+  // The toolkit believes in the state that it asked for until the window manager has heard of the window.
+  if (!window_->windowHandle()->isExposed()) awaits_minimized_ = false;
 }
 
 // The window manager reports the size of its decorations only after the window has come up, and another one
 // for a maximized window: then the place that was asked for is asked for again, so that the whole window has
 // the size that the form says.
 void Frame_View::Normal_Window_Placed() {
-  if (awaits_minimized_) return;  // a request for a place would bring the window up again
+  if (awaits_minimized_ && !window_->was_used)
+    return;  // a request for a place would bring the window up again
   was_normal_ = true;
   if (may_ask_again_ && Decorations() != asked_with_) return Place(placed_);
-  if (!Rounds_To(Outside(), placed_, window_->devicePixelRatioF())) Take_Place(Outside());
-}
-
-void Frame_View::Take_Place(const QRect& place) {
-  placed_before_ = std::exchange(placed_, place);
+  const QSize room = window_->screen()->availableGeometry().size();
+  const bool fills_screen = Outside().size().boundedTo(room) == room;
+  if (fills_screen || Rounds_To(Outside(), placed_, window_->devicePixelRatioF())) return;
+  placed_ = Outside();
   Report_Place(placed_);
 }
 

@@ -39,6 +39,7 @@ struct Child_Area final : QMdiArea {
 struct Frame_Window final : QMainWindow {
   std::function<void()> on_close, on_placed;
   bool was_seen = false;  // some of it has been on the screen: places and states before are not the user's
+  bool was_used = false;  // by mouse or key
 
   void closeEvent(QCloseEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
@@ -80,17 +81,14 @@ struct Frame_View final : Form_View {
   QRect Outside() const;  // where the window is now, with its decorations
   void Window_Placed();
   void Normal_Window_Placed();
-  void Take_Place(const QRect& place);
 
   Frame_Window* window_;
   Child_Area* area_;
   std::unique_ptr<Menu_Bar> menus_;
   Window_State shown_state_ = Window_State::Normal;  // asked for or reported last
-  // The outer place of the window while it is neither maximized nor minimized, asked for or reported last,
-  // and the one before that.
-  QRect placed_, placed_before_;
-  QMargins asked_with_;            // the decorations that the last request reckoned with
-  bool awaits_minimized_ = false;  // it was asked for and is not reported yet
+  QRect placed_;         // the outer place of the window while it is normal, asked for or reported last
+  QMargins asked_with_;  // the decorations that the last request reckoned with
+  bool awaits_minimized_ = false;  // it was asked for and has not come yet
   bool was_normal_ = false;        // the window has been seen so
   bool may_ask_again_ = true;      // until the window manager has a normal place to go back to
 };

@@ -41,10 +41,11 @@ def write(session, state, place):
     session.settings_file.write_text(text)
 
 
-def kept(session):
+def expect_kept(session, state):
     assert session.interrupt() == 0
     section = session.settings()["Main Window"]
-    return int(section["State"]), tuple(int(section[key]) for key in Keys)
+    kept = int(section["State"]), tuple(int(section[key]) for key in Keys)
+    assert kept == (state, Place), kept
 
 
 def maximized(session):
@@ -58,7 +59,7 @@ def maximized(session):
                 left, top, width, _ = place
                 session.screen.hand("mousemove", left + width // 2, top + 8, "click", "--repeat", 2, "--delay", 60, 1)
         wait_for(session, 2, whole)
-        assert kept(session) == (2, Place)
+        expect_kept(session, 2)
 
 
 def minimized(session):
@@ -66,7 +67,7 @@ def minimized(session):
     for _ in range(Starts):
         session.start(wait_for_panel=False)
         wait_until(lambda: (window(session) or (0,))[0] == 1, lambda: f"minimized: {window(session)}")
-        assert kept(session) == (1, Place)
+        expect_kept(session, 1)
 
 
 def inside(place):
