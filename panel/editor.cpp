@@ -112,19 +112,29 @@ void Place_Switch_Of(const Switch_Row& row) {
   (Editor.*row.element).top = lowest - Switch_Row_px * Band_Of(row.bands, value);
 }
 
+void Place_Switch(const Switch_Row& row) {
+  Picture_Box& element = Editor.*row.element;
+  if (row.range.top == Upper_Row_Top) {
+    element.top = Switch_Top_Upper(row.range.index);
+  } else if (row.range.top == Lower_Row_Top) {
+    element.top = Switch_Top_Lower(row.range.index);
+  } else {
+    Place_Switch_Of(row);
+  }
+}
+
+// In the order of the parameters, the knobs last. Both tables are in that order.
 void Show_All() {
-  const auto place = [](const Switch_Row& row) {
-    Picture_Box& element = Editor.*row.element;
-    if (row.range.top == Upper_Row_Top) {
-      element.top = Switch_Top_Upper(row.range.index);
-    } else if (row.range.top == Lower_Row_Top) {
-      element.top = Switch_Top_Lower(row.range.index);
-    } else {
-      Place_Switch_Of(row);
-    }
+  auto slider = Editor_Sliders().begin();
+  const auto place_sliders_before = [&slider](int index) {
+    for (; slider != Editor_Sliders().end() && slider->range.index < index; ++slider)
+      (Editor.*slider->element).top = Slider_Top(slider->range.index);
   };
-  for (const Switch_Row& row : Editor_Switches()) place(row);
-  for (const Slider_Row& row : Editor_Sliders()) (Editor.*row.element).top = Slider_Top(row.range.index);
+  for (const Switch_Row& row : Editor_Switches()) {
+    place_sliders_before(row.range.index);
+    Place_Switch(row);
+  }
+  place_sliders_before(Tone_Size);
   for (const Knob_Row& row : Editor_Knobs()) Knob_Show(row.tag);
 }
 
