@@ -15,6 +15,7 @@
 #include "midi/output.h"
 #include "panel/push_buttons.h"
 #include "platform/text.h"
+#include "sequencer/seq_display.h"
 #include "sequencer/seq_files.h"
 #include "windows/file_dlg_window.h"
 #include "windows/focus_mark.h"
@@ -74,6 +75,7 @@ void Dialog_Unload() {
   MIDI_Reset();
   FD_Soundcheck_Keep();
   if (std::string* directory = Directory_Of_Pattern()) *directory = File_Dlg.FD_List_Files.path();
+  if (Seq_Open == Flag_On) Seq_Redraw();  // Save would write what a preview has left in memory
   Menus_Enable();
   if (MELVOR.Menu_Windows_SavePos.checked()) {
     FileDlg_Left = File_Dlg.left;

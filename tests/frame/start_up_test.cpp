@@ -66,15 +66,22 @@ TEST_F(Frame, A_Sequence_That_Is_Refused_After_Its_Preview_Leaves_The_One_In_The
   ASSERT_TRUE(Start(std::string(Configured) + "[Recent Files]\nSequences=c:\\\nSequence1=C:\\GOOD.SEQ\n"));
   Choose(MELVOR.Menu_MIDI_Seq);
   Choose(MELVOR.Menu_File_Seq_1);
-  Choose(MELVOR.Menu_File_Seq_Open);
-  User_Selected(File_Dlg.FD_List_Files, 1);
-  desktop.Click(File_Dlg.FD_List_Files);
-  EXPECT_EQ(Seq_Data[0], Seq_Soft);
+  const auto preview = [this] {
+    Choose(MELVOR.Menu_File_Seq_Open);
+    User_Selected(File_Dlg.FD_List_Files, 1);
+    desktop.Click(File_Dlg.FD_List_Files);
+    EXPECT_EQ(Seq_Data[0], Seq_Soft);
+  };
+  preview();
   desktop.Expect_Box(Answer::Ok, "Error 380: Invalid property value");
   desktop.Key(Key::Enter);
   Unload(File_Dlg);
   Choose(MELVOR.Menu_File_Seq_Save);
   EXPECT_EQ(root.Get("good.seq"), good);
+  const auto shown = Sequencer.Seq_Matrix.painted();
+  preview();
+  desktop.Key(Key::Escape);
+  EXPECT_NE(Sequencer.Seq_Matrix.painted(), shown) << "a preview that stays is seen";
 }
 
 TEST_F(Frame, A_Recent_Tone_Is_Saved_Under_Its_Own_Name) {

@@ -44,16 +44,17 @@ class Session:
             self.connect()
             self.write_settings()
             self.start(wait_for_panel=self._configured)
-        except BaseException:
-            self._tell()
-            self.machine.__exit__()
+        except BaseException as error:
+            self.__exit__(type(error))
             raise
         return self
 
     def __exit__(self, kind, *_):
-        if kind is not None:
-            self._tell()
-        self.machine.__exit__()
+        try:
+            if kind is not None:
+                self._tell()
+        finally:
+            self.machine.__exit__()
 
     def _tell(self):
         """What is worth knowing of a failure."""
