@@ -1,5 +1,6 @@
-// The tone as a whole and parameter by parameter: the one way in which a control changes it, and how it is
-// shown. Called by the panel, the tone commands and the tone files, on the user-interface thread.
+// The tone as a whole and parameter by parameter: how a control changes it (a dragged switch and VCA mode
+// store and send their byte themselves), and how it is shown. Called by the panel, the tone commands and the
+// tone files, on the user-interface thread.
 #pragma once
 
 #include <functional>

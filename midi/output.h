@@ -11,7 +11,8 @@
 
 extern std::int32_t MIDI_Out_Handle;  // -1: closed
 
-// The one long-message header: at most one long message is in flight.
+// The one long-message header. The send lets timers tick before it is done, and one of these may send with
+// the same header: the service has copied the bytes by then.
 extern MIDI_Header MIDI_Long_Hdr;
 
 // Filled by the sequencer, called when a failure has switched MIDI off.

@@ -24,8 +24,8 @@ void Seq_Stop_Play();
 
 // The tone file menu has been opened: a running clock stops, and the output closes.
 void Seq_Stop_For_Tone_Menu();
-// The MIDI setup is about to open: a running clock stops; the setup closes the output itself. Nothing with
-// MIDI off.
+// The MIDI setup is about to open: a running clock stops, with MIDI off too; the setup closes the output
+// itself.
 void Seq_Stop_For_Setup();
 // The menu command that closes the output, with or without a running clock.
 void Menu_MIDI_CloseOutput();
