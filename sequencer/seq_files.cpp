@@ -45,8 +45,8 @@ struct Kept_Sequence {
 
 Kept_Sequence Before_Previews;
 
-// A file that is refused leaves the Sequencer as it was: what the dialog has previewed must not stay behind
-// it, since Save would write cells that nobody sees.
+// A file that is refused leaves the Sequencer as it was. The dialog's previews go with it, since Save would
+// write cells that nobody sees.
 void Give_Up_Previews() {
   Seq_Data = Before_Previews.cells;
   Seq_Speed = Before_Previews.speed;

@@ -45,14 +45,14 @@ TEST_F(Dialog_Test, It_Holds_The_Program_Modal_And_Remembers_Where_It_Was) {
   EXPECT_EQ(Active_Dlg, "File_Dlg");
   EXPECT_FALSE(MELVOR.Menu_File.enabled() || Editor.enabled());
   EXPECT_EQ(Focused_Control(), &File_Dlg.FD_FileName);
-  File_Dlg.FD_List_Dirs.Set_Path("C:\\work\\sub");
+  File_Dlg.FD_List_Dirs.Set_Path("C:\\songs\\sub");
   desktop.Post([] { User_Closes(File_Dlg); });  // the user is quick; this comes while it closes
   desktop.Click(File_Dlg.FD_Button_Cancel);
   EXPECT_EQ(FD_Cancelled, Flag_True);
   MELVOR.Menu_Windows_SavePos.checked = false;
   EXPECT_EQ(Active_Dlg + std::to_string(Dlg_Nest), "0");
   EXPECT_TRUE(MELVOR.Menu_File.enabled() && Editor.enabled());
-  EXPECT_EQ(Dir_Tones + "|" + Dir_Sequences, "C:\\work\\sub|c:\\work\\");
+  EXPECT_EQ(Dir_Tones + "|" + Dir_Sequences, "C:\\songs\\sub|c:\\songs\\");
 }
 
 TEST_F(Dialog_Test, Keys_Work_And_Alt_Ends_In_The_File_Name) {

@@ -1,4 +1,4 @@
-// The program with its Editor shown, and a directory "work" of tones and sequences on a drive C: of its own.
+// The program with its Editor shown, and a directory "songs" of tones and sequences on a drive C: of its own.
 #pragma once
 
 #include <algorithm>
@@ -36,12 +36,12 @@ struct Filebrowser_Test : Program {
       MELVOR.Timer_Display.enabled = false;
       Display_Blink = Display_Blink == Flag_True ? Flag_False : Flag_True;
     };
-    root.Make("work/sub");
-    root.Put("work/a.syx", Tone_Bytes('A'));
-    root.Put("work/B.SYX", Tone_Bytes('B'));
-    root.Put("work/bad.syx", "no tone");
-    root.Put("work/p.seq", "SEQ1" + Bytes_Of("3C 30") + std::string(104, '\x7F'));
-    root.Put("work/x.osc", "curve");
+    root.Make("songs/sub");
+    root.Put("songs/a.syx", Tone_Bytes('A'));
+    root.Put("songs/B.SYX", Tone_Bytes('B'));
+    root.Put("songs/bad.syx", "no tone");
+    root.Put("songs/p.seq", "SEQ1" + Bytes_Of("3C 30") + std::string(104, '\x7F'));
+    root.Put("songs/x.osc", "curve");
     Fresh_Memory();
     Show(Editor);
   }
@@ -52,7 +52,7 @@ struct Filebrowser_Test : Program {
   }
 
   void Fresh_Memory() {
-    Dir_Tones = Dir_Sequences = Dir_Oscillators = "c:\\work\\";
+    Dir_Tones = Dir_Sequences = Dir_Oscillators = "c:\\songs\\";
     Recent_Tones = Recent_Seqs = {};
     Autoplay = Autosend = MIDI_Enabled = 1;
     Soundcheck = 0;

@@ -19,19 +19,19 @@ struct Folders_Test : Filebrowser_Test {
 
 TEST_F(Folders_Test, Directories_Open_By_Key_Double_Click_And_Up) {
   Open("Open_SYX");
-  Press_Directory("C:\\work\\sub");
+  Press_Directory("C:\\songs\\sub");
   desktop.Key(Key::Space, 0, Key::Space);
-  EXPECT_EQ(Shown(), "C:\\work\\sub|C:\\work\\sub");
+  EXPECT_EQ(Shown(), "C:\\songs\\sub|C:\\songs\\sub");
   desktop.Click(File_Dlg.FD_Button_Updir_Pic);
-  EXPECT_EQ(Shown(), "C:\\work|C:\\work");
-  Press_Directory("C:\\work\\sub");
+  EXPECT_EQ(Shown(), "C:\\songs|C:\\songs");
+  Press_Directory("C:\\songs\\sub");
   desktop.Key(Key::Space, Shift_Key);
-  EXPECT_EQ(Shown(), "C:\\work|C:\\work");
+  EXPECT_EQ(Shown(), "C:\\songs|C:\\songs");
   desktop.Key(Key::Enter);
   desktop.Click(File_Dlg.FD_Button_Updir_Pic);
-  Press_Directory("C:\\work\\sub");
+  Press_Directory("C:\\songs\\sub");
   Mouse_Double(File_Dlg.FD_List_Dirs, {Left_Button, 0, 4, 4});
-  EXPECT_EQ(Shown(), "C:\\work\\sub|C:\\work\\sub");
+  EXPECT_EQ(Shown(), "C:\\songs\\sub|C:\\songs\\sub");
   Unload(File_Dlg);
   Dir_Tones = "c:\\gone\\";
   Open("Open_SYX");
@@ -48,7 +48,7 @@ TEST_F(Folders_Test, Directories_Open_By_Key_Double_Click_And_Up) {
 
 TEST_F(Folders_Test, A_New_Folder_Gets_A_Name_That_Is_Free) {
   Open("Open_SYX");
-  Press_Directory("C:\\work");
+  Press_Directory("C:\\songs");
   for (const char* name : {"SUB", "New One "}) {
     desktop.At_Wait([name] {
       Input_Dlg.Input_Textbox.Set_Text(name);
@@ -57,7 +57,7 @@ TEST_F(Folders_Test, A_New_Folder_Gets_A_Name_That_Is_Free) {
   }
   Set_Focus(File_Dlg.FD_Button_Newdir);
   desktop.Key(Key::Space);
-  EXPECT_TRUE(root.Names("work").contains("new one"));
+  EXPECT_TRUE(root.Names("songs").contains("new one"));
 }
 
 TEST_F(Folders_Test, A_Drive_That_Is_Not_Ready_Can_Be_Tried_Again_Or_Given_Up) {
@@ -66,7 +66,7 @@ TEST_F(Folders_Test, A_Drive_That_Is_Not_Ready_Can_Be_Tried_Again_Or_Given_Up) {
   Open("Open_SYX");
   desktop.Expect_Box(Answer::Cancel, "Drive not ready or unavailable.");
   User_Selected(File_Dlg.FD_List_Drives, 1);
-  EXPECT_EQ(File_Dlg.FD_List_Drives.drive() + FD_Drive + File_Dlg.FD_List_Dirs.path(), "C:C:C:\\work");
+  EXPECT_EQ(File_Dlg.FD_List_Drives.drive() + FD_Drive + File_Dlg.FD_List_Dirs.path(), "C:C:C:\\songs");
   desktop.on_other_box = [&] {
     root.Make("stick");
     return Answer::Retry;
@@ -85,38 +85,38 @@ TEST_F(Folders_Test, Delete_Asks_First) {
   };
   Press_File("a.syx");
   press_delete("A.SYX", Answer::No);
-  EXPECT_EQ(root.Get("work/a.syx"), Tone_Bytes('A'));
+  EXPECT_EQ(root.Get("songs/a.syx"), Tone_Bytes('A'));
   Press_File("a.syx");
   press_delete("A.SYX", Answer::Yes);
   EXPECT_EQ(File_Dlg.FD_List_Files.items(), (std::vector<std::string>{"B.SYX", "bad.syx"}));
   EXPECT_EQ(File_Dlg.FD_List_Files.file_name() + File_Dlg.FD_FileName.text(), "B.SYXB.SYX") << "the next one";
   File_Dlg.FD_FileName.Set_Text("a.syx");
   press_delete("B.SYX", Answer::Yes, " could not be deleted.");
-  const auto bad = root.Get("work/bad.syx");
+  const auto bad = root.Get("songs/bad.syx");
   Press_File("B.SYX");
   File_Dlg.FD_FileName.Set_Text("bad.syx");
   press_delete("B.SYX", Answer::Yes);
   EXPECT_EQ(File_Dlg.FD_List_Files.items(), std::vector<std::string>{"B.SYX"});
-  EXPECT_EQ(root.Get("work/bad.syx~"), bad) << "nobody asked about it";
+  EXPECT_EQ(root.Get("songs/bad.syx~"), bad) << "nobody asked about it";
 
-  root.Put("work/sub/B.SYX", "its namesake");
+  root.Put("songs/sub/B.SYX", "its namesake");
   Press_File("B.SYX");
-  File_Dlg.FD_List_Dirs.Set_Path("C:\\work\\sub");
+  File_Dlg.FD_List_Dirs.Set_Path("C:\\songs\\sub");
   press_delete("B.SYX", Answer::Yes);
-  EXPECT_EQ(root.Get("work/sub/B.SYX~"), "its namesake");
-  std::filesystem::remove(root.host / "work/sub/B.SYX~");
-  File_Dlg.FD_List_Dirs.Set_Path("C:\\work");
+  EXPECT_EQ(root.Get("songs/sub/B.SYX~"), "its namesake");
+  std::filesystem::remove(root.host / "songs/sub/B.SYX~");
+  File_Dlg.FD_List_Dirs.Set_Path("C:\\songs");
 
-  root.Put("work/sub/kept.syx", "x");
-  Press_Directory("C:\\work\\sub");
+  root.Put("songs/sub/kept.syx", "x");
+  Press_Directory("C:\\songs\\sub");
   press_delete("C:\\WORK\\SUB", Answer::Yes, " could not be removed. The directory is not empty.");
-  std::filesystem::remove(root.host / "work/sub/kept.syx");
-  Press_Directory("C:\\work\\sub");
+  std::filesystem::remove(root.host / "songs/sub/kept.syx");
+  Press_Directory("C:\\songs\\sub");
   press_delete("C:\\WORK\\SUB", Answer::No);
-  EXPECT_TRUE(root.Names("work").contains("sub"));
-  Press_Directory("C:\\work\\sub");
+  EXPECT_TRUE(root.Names("songs").contains("sub"));
+  Press_Directory("C:\\songs\\sub");
   press_delete("C:\\WORK\\SUB", Answer::Yes);
-  EXPECT_FALSE(root.Names("work").contains("sub"));
+  EXPECT_FALSE(root.Names("songs").contains("sub"));
 }
 
 }  // namespace
