@@ -109,13 +109,13 @@ TEST_F(Folders_Test, Delete_Asks_First) {
 
   root.Put("songs/sub/kept.syx", "x");
   Press_Directory("C:\\songs\\sub");
-  press_delete("C:\\WORK\\SUB", Answer::Yes, " could not be removed. The directory is not empty.");
+  press_delete("C:\\SONGS\\SUB", Answer::Yes, " could not be removed. The directory is not empty.");
   std::filesystem::remove(root.host / "songs/sub/kept.syx");
   Press_Directory("C:\\songs\\sub");
-  press_delete("C:\\WORK\\SUB", Answer::No);
+  press_delete("C:\\SONGS\\SUB", Answer::No);
   EXPECT_TRUE(root.Names("songs").contains("sub"));
   Press_Directory("C:\\songs\\sub");
-  press_delete("C:\\WORK\\SUB", Answer::Yes);
+  press_delete("C:\\SONGS\\SUB", Answer::Yes);
   EXPECT_FALSE(root.Names("songs").contains("sub"));
 }
 
