@@ -71,7 +71,6 @@ void Form_View::Update() {
   // Where the toolkit's mark of a changed document goes; doubled it is these three characters themselves.
   if (form.role == Form_Role::Frame) title = title.replace("[*]", "[*][*]") + "[*]";
   if (Window().windowTitle() != title) Window().setWindowTitle(title);
-  if (Window().isWindowModified() != form.modified()) Window().setWindowModified(form.modified());
   Show_Pointer();
   Show_Window();
 }

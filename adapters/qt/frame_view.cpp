@@ -73,8 +73,15 @@ void Frame_Window::resizeEvent(QResizeEvent* event) {
   if (on_placed) on_placed();
 }
 
+void Frame_Window::Show_Modified(bool modified) {
+  modified_ = modified;
+  setWindowModified(modified);
+}
+
 void Frame_Window::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  // The toolkit takes the mark away whenever a child window closes.
+  if (event->type() == QEvent::ModifiedChange && isWindowModified() != modified_) setWindowModified(modified_);
   if (event->type() == QEvent::WindowStateChange && on_placed) on_placed();
 }
 
@@ -139,6 +146,7 @@ Frame_View::~Frame_View() {
 void Frame_View::Silence() { window_->on_close = window_->on_placed = {}; }
 
 void Frame_View::Show_Window() {
+  window_->Show_Modified(form.modified());
   area_->Show_Background(form);
   for (const Form* child : Loaded_Children()) {
     if (Form_View* view = shell.View_Of(*child)) view->Show_Pointer();

@@ -41,11 +41,16 @@ struct Frame_Window final : QMainWindow {
   bool was_seen = false;  // some of it has been on the screen: places and states before are not the user's
   bool was_used = false;  // by mouse or key
 
+  void Show_Modified(bool modified);
+
   void closeEvent(QCloseEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;  // of its native window
+
+ private:
+  bool modified_ = false;
 };
 
 struct Frame_View final : Form_View {

@@ -160,6 +160,11 @@ class Evening:
         self.screen.focus(left="No")
         assert self.file("bank").read_bytes() == bank
         self.screen.wait_for_title("MELVOR - C:\\BANK.SYX*")
+        self.screen.key("ctrl+o")
+        self.screen.wait_for("File name")
+        self.screen.key("Escape")
+        self.screen.wait_for_end_of("File name")
+        self.screen.wait_for_title("MELVOR - C:\\BANK.SYX*")
 
     def file(self, name):
         return self.session.machine.home / f"{name}.syx"
