@@ -4,6 +4,7 @@
 
 #include "platform/chance.h"
 #include "platform/convert.h"
+#include "platform/table.h"
 
 Osc_Curve Osc_Raw;
 Osc_Curve Osc_Out;
@@ -102,9 +103,9 @@ void Random_Levels() {
   }
 }
 
-constexpr std::array<void (*)(), Osc_Waves> Generators{Double_Ramp, Single_Ramp,    Square,       Triangle,
-                                                       Sine,        Rectified_Sine, Single_Pulse, Alternating,
-                                                       Kept,        Random_Levels};
+constexpr auto Generators =
+    Full_Table<void (*)(), Osc_Waves>({Double_Ramp, Single_Ramp, Square, Triangle, Sine, Rectified_Sine,
+                                       Single_Pulse, Alternating, Kept, Random_Levels});
 
 template <class Change>
 Osc_Curve Changed(const Osc_Curve& curve, Change change) {

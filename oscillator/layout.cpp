@@ -4,6 +4,7 @@
 #include "oscillator/targets.h"
 #include "oscillator/window.h"
 #include "panel/element_looks.h"
+#include "platform/table.h"
 #include "windows/pictures.h"
 
 namespace {
@@ -40,9 +41,9 @@ constexpr int First_Wave_Tab = 5;
 constexpr int Start_Tab = 15;
 constexpr int Stop_Tab = 16;
 
-constexpr std::array<std::string_view, Osc_Waves> Wave_Names{
-    "Double ramp",    "Single ramp",  "Square",      "Triangle",   "Sine",
-    "Rectified sine", "Single pulse", "Alternating", "Kept curve", "Random"};
+constexpr auto Wave_Names = Full_Table<std::string_view, Osc_Waves>(
+    {"Double ramp", "Single ramp", "Square", "Triangle", "Sine", "Rectified sine", "Single pulse",
+     "Alternating", "Kept curve", "Random"});
 
 void Place_Value(Label& label, int left, int top, int width) {
   label.Place(left, top, width, Value_Height_px);
@@ -112,5 +113,5 @@ void Osc_Layout() {
   Oscillator.Combo1.spoken_name = "Target";
   Oscillator.Combo1.tool_tip = "The parameter that the curve moves";
   Oscillator.Combo1.Clear();
-  for (const Osc_Target& target : Osc_Targets) Oscillator.Combo1.Add_Item(std::string(target.text));
+  for (const Osc_Target& target : Osc_Targets()) Oscillator.Combo1.Add_Item(std::string(target.text));
 }

@@ -1,7 +1,7 @@
-// What the oscillator can drive: the 27 lines of its target list.
+// What the oscillator can drive: the lines of its target list.
 #pragma once
 
-#include <array>
+#include <span>
 #include <string_view>
 
 // Values of Osc_Param that are no parameter of the tone.
@@ -16,4 +16,4 @@ struct Osc_Target {
 };
 
 // In the order of the list.
-extern const std::array<Osc_Target, 27> Osc_Targets;
+std::span<const Osc_Target> Osc_Targets();

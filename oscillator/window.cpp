@@ -67,7 +67,7 @@ void Time_Change() {
 
 void Target_Click() {
   const int line = Oscillator.Combo1.index;
-  if (line >= 0) Osc_Param = Osc_Targets[static_cast<std::size_t>(line)].param;
+  if (line >= 0) Osc_Param = Osc_Targets()[static_cast<std::size_t>(line)].param;
 }
 
 // A bar that stands there already runs no handler, and its label and lines need the value all the same.

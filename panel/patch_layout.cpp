@@ -4,6 +4,7 @@
 #include "panel/element_looks.h"
 #include "panel/patch.h"
 #include "panel/patch_values.h"
+#include "platform/table.h"
 #include "windows/patch_window.h"
 
 namespace {
@@ -14,9 +15,12 @@ constexpr int Light_Row_px = 15;
 constexpr int First_Key_Mode_Tab = 4;
 constexpr int Last_After_Touch_Tab = 13;
 
-constexpr std::array<std::string_view, 6> Key_Modes{"poly 1", "unison 1", "solo 1",
-                                                    "poly 2", "unison 2", "solo 2"};
-constexpr std::array<std::string_view, 4> After_Touches{"off", "vibrato", "brilliance", "volume"};
+constexpr auto Key_Modes = Full_Table<std::string_view, Key_Mode_Values.size()>(
+    {"poly 1", "unison 1", "solo 1", "poly 2", "unison 2", "solo 2"});
+constexpr auto After_Touches =
+    Full_Table<std::string_view, After_Touch_Values.size()>({"off", "vibrato", "brilliance", "volume"});
+static_assert(std::tuple_size_v<decltype(Patch_Window::Key_Mode)> == Key_Modes.size() &&
+              std::tuple_size_v<decltype(Patch_Window::After_Touch)> == After_Touches.size());
 
 void Lay_Group_Item(Picture_Box& light, int left, int row, int tab, std::string_view group,
                     std::string_view item) {

@@ -23,8 +23,8 @@ constexpr int Portamento_Off_Top_px = 143;
 constexpr int Portamento_On = 64;  // lowest byte that counts as on
 
 // The bytes of the items of the two groups of lights; there is no 3.
-constexpr std::array<std::uint8_t, 6> Key_Mode_Values{0, 1, 2, 4, 5, 6};
-constexpr std::array<std::uint8_t, 4> After_Touch_Values{0, 1, 2, 4};
+constexpr auto Key_Mode_Values = std::to_array<std::uint8_t>({0, 1, 2, 4, 5, 6});
+constexpr auto After_Touch_Values = std::to_array<std::uint8_t>({0, 1, 2, 4});
 
 // Stores the byte, shows it in the Editor's display (0 to 99 for sliders, -50 to 50 for the knob, nothing
 // else; nothing at all while Tone_Loading), sends it if Autosend is on, and marks the tone as changed. index

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "platform/desktop.h"
+#include "platform/table.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_pictures.h"
 #include "sequencer/seq_window.h"
@@ -23,8 +24,8 @@ constexpr int White_Width_px = 36;
 constexpr int Black_Width_px = 24;
 constexpr int Light_Size_px = 14;
 
-constexpr std::array<std::string_view, Seq_Row_Count> Note_Names{
-    "C", "C sharp", "D", "D sharp", "E", "F", "F sharp", "G", "G sharp", "A", "A sharp", "B", "upper C"};
+constexpr auto Note_Names = Full_Table<std::string_view, Seq_Row_Count>(
+    {"C", "C sharp", "D", "D sharp", "E", "F", "F sharp", "G", "G sharp", "A", "A sharp", "B", "upper C"});
 constexpr std::array<int, 3> Legend_Lefts{6, 46, 97};
 
 struct Direction_Row {
@@ -33,14 +34,15 @@ struct Direction_Row {
   std::string_view spoken;
 };
 
-constexpr std::array<Direction_Row, Seq_Mode_Buttons.size()> Direction_Rows{{
+constexpr auto Direction_Rows = Full_Table<Direction_Row, Seq_Mode_Buttons.size()>({
     {156, 19, "Forward"},
     {214, 19, "Backward"},
     {272, 19, "Back and forth"},
     {156, 41, "Random direction at each step"},
     {214, 41, "Random direction at the ends"},
     {272, 41, "Random step"},
-}};
+});
+static_assert(std::tuple_size_v<decltype(Sequencer_Window::Seq_Directions)> == Seq_Mode_Buttons.size());
 
 constexpr int First_Direction_Tab = 0;
 constexpr int Range_Tab = 6;

@@ -6,6 +6,7 @@
 #include "midi/state.h"
 #include "panel/push_buttons.h"
 #include "platform/convert.h"
+#include "platform/table.h"
 #include "sequencer/seq_clock.h"
 #include "sequencer/seq_commands.h"
 #include "sequencer/seq_display.h"
@@ -27,8 +28,8 @@ constexpr Picture New_Down{"seq-new-dn"};
 constexpr int Key_Down_Offset = 2;  // from a key's picture to its pressed one
 
 constexpr std::array<std::string_view, 5> Range_Items{"C0..C1", "C1..C2", "C2..C3", "C3..C4", "C4..C5"};
-constexpr std::array<std::string_view, Seq_Row_Count> Trans_Items{"C", "C#", "D", "D#", "E", "F", "F#",
-                                                                  "G", "G#", "A", "A#", "B", "C+"};
+constexpr auto Trans_Items = Full_Table<std::string_view, Seq_Row_Count>(
+    {"C", "C#", "D", "D#", "E", "F", "F#", "G", "G#", "A", "A#", "B", "C+"});
 
 constexpr int Nothing = -1;
 

@@ -54,7 +54,7 @@ TEST_F(Setup, No_Clock_Sends_Behind_A_Closed_Output) {
   Seq_Clear();
   Menu_MIDI_CloseOutput();
   Choose(MELVOR.Menu_MIDI_Osc);
-  Oscillator.Combo1.Select(static_cast<int>(Osc_Targets.size()) - 1);
+  Oscillator.Combo1.Select(static_cast<int>(Osc_Targets().size()) - 1);
   desktop.Click(Oscillator.Osc_Start);
   EXPECT_TRUE(service.Out_Is_Open());
   Choose(MELVOR.Menu_MIDI_Setup);
