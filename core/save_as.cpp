@@ -36,8 +36,7 @@ struct Run {
 };
 
 // A file that is not there ends the statement alone, not the command.
-template <class Statement>
-void Past_Missing_File(Statement statement) {
+void Past_Missing_File(void (*statement)()) {
   try {
     statement();
   } catch (const Runtime_Error& error) {
@@ -99,19 +98,8 @@ void Rounds(Run& run) {
   while (!Round(run)) continue;
 }
 
-void Tell_Error(const Runtime_Error& error) {
-  if (error.number == Error_Cancelled) return;
-  if (error.number == Error_Bad_File_Name) {
-    Message_Box("Wrong filename!", Box_Stop);
-  } else {
-    Message_Box(
-        "SaveAs Error " + std::to_string(error.number) + " : " + std::string(Error_Text(error.number)),
-        Box_Stop);
-  }
-}
-
-// A name that was chosen and not written does not stay: Save would overwrite a file that the user has declined
-// to.
+// A name that was chosen and not written does not stay: Save would overwrite a file that the user has
+// declined to.
 void Finish(Run& run) {
   if (Run::current != &run) return;
   if (run.shows_undo_copy) {
@@ -132,7 +120,7 @@ void Tone_SaveAs() {
     try {
       step(run);
     } catch (const Runtime_Error& error) {
-      Tell_Error(error);
+      Report_File_Error(error, "SaveAs Error ", " : ");
     }
   }
 }

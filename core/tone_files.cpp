@@ -142,16 +142,6 @@ void Scan_File(const std::string& path, Load_Mode mode) {
   if (mode == Load_Mode::Open) Finish_Open(scan, path);
 }
 
-void Tell_File_Error(const Runtime_Error& error) {
-  if (error.number == Error_Cancelled) return;
-  if (error.number == Error_Bad_File_Name) {
-    Message_Box("Wrong filename!", Box_Stop);
-  } else {
-    Message_Box("Error " + std::to_string(error.number) + ": " + std::string(Error_Text(error.number)),
-                Box_Stop);
-  }
-}
-
 // --- what a save would overwrite
 
 constexpr std::size_t Patch_Message_Place = 67;  // of a saved file, after the tone
@@ -202,7 +192,7 @@ void Tone_Load(const std::string& path, Load_Mode mode) {
   } catch (const Runtime_Error& error) {
     Tone_Loading = Flag_Off;
     if (mode == Load_Mode::Open && Tone_Found == Flag_On) Tone_Saved = Flag_False;
-    Tell_File_Error(error);
+    Report_File_Error(error);
   }
 }
 
@@ -224,9 +214,20 @@ bool Tone_Save() {
     MELVOR.Menu_Edit_Undo.enabled = false;
     return true;
   } catch (const Runtime_Error& error) {
-    Tell_File_Error(error);
+    Report_File_Error(error);
     return false;
   }
+}
+
+void Report_File_Error(const Runtime_Error& error, std::string_view label, std::string_view separator) {
+  if (error.number == Error_Cancelled) return;
+  if (error.number == Error_Bad_File_Name) {
+    Message_Box("Wrong filename!", Box_Stop);
+    return;
+  }
+  Message_Box(std::string(label) + std::to_string(error.number) + std::string(separator) +
+                  std::string(Error_Text(error.number)),
+              Box_Stop);
 }
 
 int File_Exists(std::string_view path) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/runtime_error.h"
+
 // How a file is loaded: for real, or as the preview of the file dialog.
 enum class Load_Mode { Open, Soundcheck };
 
@@ -22,6 +24,10 @@ void Tone_Load(const std::string& path, Load_Mode mode);
 // if nothing was written, because the user declined or because of a failure, which a box reports; the old
 // file and Tone_Saved are then unchanged.
 bool Tone_Save();
+
+// Shows a failure of a file command in a stop box; a cancelled dialog is none.
+void Report_File_Error(const Runtime_Error& error, std::string_view label = "Error ",
+                       std::string_view separator = ": ");
 
 // Flag_True if the path can be opened for reading, Flag_False if not. A single trailing "\" is taken off; an
 // empty path is not opened and counts as there. The error number is kept in File_Error, 0 for none.

@@ -126,16 +126,6 @@ void Load_File(const std::string& path, Load_Mode mode) {
   }
 }
 
-void Tell(const Runtime_Error& error) {
-  if (error.number == Error_Cancelled) return;
-  if (error.number == Error_Bad_File_Name) {
-    Message_Box("Wrong filename!", Box_Stop);
-    return;
-  }
-  Message_Box("Error " + std::to_string(error.number) + ": " + std::string(Error_Text(error.number)),
-              Box_Stop);
-}
-
 Byte_String File_Image() {
   Byte_String image(File_Head);
   image += static_cast<char>(Seq_Speed);
@@ -152,7 +142,7 @@ void Seq_Load(const std::string& path, Load_Mode mode) {
     Load_File(path, mode);
   } catch (const Runtime_Error& error) {
     if (mode == Load_Mode::Open && FD_Open == Flag_True && Seq_Open == Flag_On) Give_Up_Previews();
-    Tell(error);
+    Report_File_Error(error);
   }
   MELVOR.pointer = Pointer_Shape::Default;
 }
