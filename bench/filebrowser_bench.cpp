@@ -6,6 +6,7 @@
 #include <string>
 
 #include "bench_support.h"
+#include "core/file_places.h"
 #include "core/settings.h"
 #include "filebrowser/dialog.h"
 #include "platform/drives.h"

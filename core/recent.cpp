@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/tone_files.h"
+#include "core/file_places.h"
 #include "platform/text.h"
 #include "windows/frame_window.h"
 #include "windows/state.h"

@@ -3,12 +3,12 @@
 #include <string>
 #include <utility>
 
+#include "core/file_places.h"
 #include "core/records.h"
-#include "core/settings.h"
 #include "core/sysex.h"
-#include "core/tone_files.h"
 #include "core/tone_origin.h"
 #include "core/tone_params.h"
+#include "core/tone_save.h"
 #include "core/undo.h"
 #include "midi/state.h"
 #include "platform/desktop.h"

@@ -3,6 +3,7 @@
 #include <array>
 #include <string_view>
 
+#include "core/file_places.h"
 #include "core/recent.h"
 #include "midi/state.h"
 #include "platform/desktop.h"
@@ -17,9 +18,6 @@ std::uint8_t Autoplay = 1;
 std::uint8_t Soundcheck = 0;
 std::uint8_t Soundcheck_Note = 24;
 std::uint8_t Soundcheck_Velocity = 80;
-std::string Dir_Tones;
-std::string Dir_Sequences;
-std::string Dir_Oscillators;
 
 namespace {
 
@@ -202,8 +200,4 @@ void Settings_Save() {
   Save_Recent(Recent_Tones, "Tone");
   Save_Recent(Recent_Seqs, "Sequence");
   INI_Release();
-}
-
-std::string Path_Behind(const std::string& path, std::size_t directory_length) {
-  return directory_length < path.size() ? path.substr(directory_length) : std::string();
 }

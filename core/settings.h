@@ -10,12 +10,6 @@ extern std::uint8_t Soundcheck;           // what it plays for a tone: 0 a note,
 extern std::uint8_t Soundcheck_Note;      // [24, 72]
 extern std::uint8_t Soundcheck_Velocity;  // [0, 127]
 
-// Directories of the file dialog, program paths: from the settings in lower case with a "\" behind them, from
-// the dialog as its list has them.
-extern std::string Dir_Tones;
-extern std::string Dir_Sequences;
-extern std::string Dir_Oscillators;
-
 // Places the frame, then reads everything but the keys that the MIDI start has read. A number outside its
 // range counts as the default; a switch is on at "1" alone, Soundcheck at anything but "0".
 void Settings_Load();
@@ -27,7 +21,3 @@ void Settings_Save();
 // sizes.
 double Windows_Version();
 constexpr double Version_Of_New_Frames = 3.95;
-
-// The part of a path behind a directory that ends in "\"; the program's captions show files so.
-// path no longer than the directory: empty.
-std::string Path_Behind(const std::string& path, std::size_t directory_length);

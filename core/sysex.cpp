@@ -83,6 +83,12 @@ Byte_String Hex_To_Bytes(std::string_view text) {
   return bytes;
 }
 
+std::string Bytes_To_Text(std::string_view bytes) {
+  std::string text;
+  for (const char byte : bytes) text += Hex_2(static_cast<std::uint8_t>(byte)) + " ";
+  return text;
+}
+
 void SysEx_Dump_Text() {
   static std::string text;
   text = SysEx_APR_Tone;

@@ -44,6 +44,13 @@ void Tone_Name_Send();
 // in [0, 255].
 void SysEx_Param_Send(std::string_view head, int parameter, int value);
 
+// Heads of messages in a file, as patterns of the text that Bytes_To_Text makes of them: "?" is any digit.
+constexpr int SysEx_Head_Size = 7;
+constexpr std::string_view Tone_Head_Form = "F0 41 35 ?? 21 20 01 ";
+constexpr std::string_view Patch_Head_Form = "F0 41 36 ?? 21 30 01 ";
+// Two hexadecimal digits and a blank for each byte.
+std::string Bytes_To_Text(std::string_view bytes);
+
 // The image of a tone file: tone dump and patch message with model byte 0x21, whatever the instrument.
 constexpr std::size_t SysEx_Image_Size = 89;
 Byte_String SysEx_Image_Of(const Byte_Record<Tone_Size>& tone, const Byte_Record<Patch_Size>& patch);

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/file_places.h"
 #include "core/recent.h"
 #include "core/records.h"
 #include "core/save_as.h"
 #include "core/sysex.h"
 #include "core/tone_origin.h"
 #include "core/tone_params.h"
-#include "core/undo.h"
 #include "midi/state.h"
 #include "platform/convert.h"
 #include "platform/desktop.h"
@@ -21,17 +21,10 @@
 #include "windows/state.h"
 
 std::uint8_t Tone_Found = Flag_Off;
-int File_Error = 0;
 
 namespace {
 
 constexpr std::uint8_t SysEx_Start = 0xF0;
-constexpr std::uint8_t SysEx_End = 0xF7;
-constexpr std::uint8_t Highest_Data_Byte = 0x7F;
-constexpr std::string_view Tone_Message_Start = "\xF0\x41\x35";  // of any model and channel
-constexpr int Head_Size = 7;
-constexpr std::string_view Tone_Head_Form = "F0 41 35 ?? 21 20 01 ";
-constexpr std::string_view Patch_Head_Form = "F0 41 36 ?? 21 30 01 ";
 constexpr int Patch_Message_Step =
     12;  // one less than the message is long: its last value is looked at again
 constexpr std::size_t Read_Limit = 32768;  // one byte more than the 16-bit position can reach
@@ -60,13 +53,11 @@ struct Scan {
   std::optional<Sound> first;  // what a save would find there, once a further tone has been met
 };
 
+// Cut short at the end of the file.
 void Take_Head(Scan& scan) {
-  for (int place = 0; place < Head_Size; ++place) {
-    const int position = scan.file.position + place;
-    if (static_cast<std::size_t>(position) <= scan.file.bytes.size())
-      scan.head += Hex_2(scan.file.Byte(position)) + " ";
-  }
-  scan.file.Step(Head_Size);
+  const auto place = static_cast<std::size_t>(scan.file.position) - 1;
+  scan.head += Bytes_To_Text(std::string_view(scan.file.bytes).substr(place, SysEx_Head_Size));
+  scan.file.Step(SysEx_Head_Size);
 }
 
 // Asks about a further tone. False: the scan ends. With Open it goes on whatever becomes of the old tone.
@@ -104,7 +95,7 @@ void Take_Patch(Scan& scan, Load_Mode mode) {
 bool Take_Message(Scan& scan, Load_Mode mode) {
   Take_Head(scan);
   if (Has_Form(scan.head, Tone_Head_Form)) {
-    scan.tone_at_start = scan.file.position == 1 + Head_Size;
+    scan.tone_at_start = scan.file.position == 1 + SysEx_Head_Size;
     if (Tone_Found == Flag_On) {
       if (!scan.first) scan.first = Sound_Now();
       if (!Take_Further_Tone(mode)) return false;
@@ -142,42 +133,6 @@ void Scan_File(const std::string& path, Load_Mode mode) {
   if (mode == Load_Mode::Open) Finish_Open(scan, path);
 }
 
-// --- what a save would overwrite
-
-constexpr std::size_t Patch_Message_Place = 67;  // of a saved file, after the tone
-
-// Whether the bytes after the file's tone are the patch message that a save writes there.
-bool Holds_Own_Patch(std::string_view file) {
-  Byte_String head;
-  for (int place = 0; place < Head_Size; ++place)
-    head +=
-        Hex_2(static_cast<std::uint8_t>(file[Patch_Message_Place + static_cast<std::size_t>(place)])) + " ";
-  const std::string_view values = file.substr(Patch_Message_Place + Head_Size, 2 * Patch_Sent);
-  const auto is_data = [](char byte) { return static_cast<std::uint8_t>(byte) <= Highest_Data_Byte; };
-  return Has_Form(head, Patch_Head_Form) && std::ranges::all_of(values, is_data) &&
-         static_cast<std::uint8_t>(file[SysEx_Image_Size - 1]) == SysEx_End;
-}
-
-// The name, in quotes, of the tone whose message begins where a save writes its patch message.
-std::string Next_Tone(std::string_view file) {
-  const std::size_t place = file.substr(0, SysEx_Image_Size).find(Tone_Message_Start, Patch_Message_Place);
-  if (place == std::string_view::npos || file.size() < place + Head_Size + Tone_Name_Length) return {};
-  return "\"" + Trim(file.substr(place + Head_Size, Tone_Name_Length)) + "\"";
-}
-
-// A save writes its 89 bytes over the file's first ones. In a bank these reach into the next tone.
-bool May_Overwrite(const std::string& path) {
-  if (File_Probe(path) != 0) return true;
-  const Byte_String file = File_Read(path, SysEx_Image_Size + Tone_Size);
-  if (file.size() <= SysEx_Image_Size || Holds_Own_Patch(file)) return true;
-  const std::string next = Next_Tone(file);
-  const std::string text =
-      next.empty() ? "File contains other data after its first 67 bytes: " + path +
-                         "\rSave writes over 22 bytes of it. Save anyway?"
-                   : "File contains another TONE: " + path + "\rSave writes over " + next + ". Save anyway?";
-  return Message_Box(text, Box_Yes_No + Box_Stop) == Answer::Yes;
-}
-
 }  // namespace
 
 void Tone_Load(const std::string& path, Load_Mode mode) {
@@ -194,44 +149,4 @@ void Tone_Load(const std::string& path, Load_Mode mode) {
     if (mode == Load_Mode::Open && Tone_Found == Flag_On) Tone_Saved = Flag_False;
     Report_File_Error(error);
   }
-}
-
-bool Tone_Save() {
-  File_Error = 0;
-  SysEx_Heads_Build();
-  SysEx_Image_Build();
-  const std::string_view image(reinterpret_cast<const char*>(SysEx_Image.data()), SysEx_Image.size());
-  try {
-    if (!May_Overwrite(Tone_File)) return false;
-    if (FD_Open == Flag_False)
-      Undo_Keep_Beside_File();  // Save As brings the undo copy into the editor instead
-    File_Keep_Copy(Tone_File, image);
-    File_Write(Tone_File, image, Old_Content::Keep_Tail);
-    Origin_Sound_Kept();
-    Undo_File_Written();
-    Recent_Tone_Add(Tone_File);
-    Tone_Saved = Flag_True;
-    MELVOR.Menu_Edit_Undo.enabled = false;
-    return true;
-  } catch (const Runtime_Error& error) {
-    Report_File_Error(error);
-    return false;
-  }
-}
-
-void Report_File_Error(const Runtime_Error& error, std::string_view label, std::string_view separator) {
-  if (error.number == Error_Cancelled) return;
-  if (error.number == Error_Bad_File_Name) {
-    Message_Box("Wrong filename!", Box_Stop);
-    return;
-  }
-  Message_Box(std::string(label) + std::to_string(error.number) + std::string(separator) +
-                  std::string(Error_Text(error.number)),
-              Box_Stop);
-}
-
-int File_Exists(std::string_view path) {
-  if (path.ends_with('\\')) path.remove_suffix(1);
-  File_Error = path.empty() ? 0 : File_Probe(path);
-  return File_Error == 0 ? Flag_True : Flag_False;
 }

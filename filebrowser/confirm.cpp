@@ -5,9 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "core/file_places.h"
 #include "core/records.h"
 #include "core/save_as.h"
 #include "core/tone_files.h"
+#include "core/tone_save.h"
 #include "filebrowser/folders.h"
 #include "filebrowser/state.h"
 #include "platform/desktop.h"

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "core/file_places.h"
 #include "core/settings.h"
 #include "filebrowser/confirm.h"
 #include "filebrowser/folders.h"

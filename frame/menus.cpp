@@ -8,6 +8,7 @@
 #include "core/settings.h"
 #include "core/tone_commands.h"
 #include "core/tone_files.h"
+#include "core/tone_save.h"
 #include "core/undo.h"
 #include "frame/help.h"
 #include "frame/midi_setup.h"

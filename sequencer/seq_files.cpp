@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "core/file_places.h"
 #include "core/recent.h"
-#include "core/settings.h"
 #include "platform/convert.h"
 #include "platform/desktop.h"
 #include "platform/files.h"

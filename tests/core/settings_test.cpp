@@ -1,4 +1,5 @@
 #include "core/settings.h"
+#include "core/file_places.h"
 
 #include "core/recent.h"
 #include "platform/profile_file.h"

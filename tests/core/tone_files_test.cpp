@@ -1,4 +1,6 @@
 #include "core/tone_files.h"
+#include "core/file_places.h"
+#include "core/tone_save.h"
 
 #include <numeric>
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/file_places.h"
 #include "core/recent.h"
 #include "core/settings.h"
 #include "core/tone_files.h"

@@ -12,6 +12,7 @@
 #include <cstddef>
 
 #include "core/tone_files.h"
+#include "core/tone_save.h"
 #include "platform/files.h"
 #include "platform/profile_file.h"
 #include "sequencer/sequencer_fixture.h"

@@ -1,6 +1,7 @@
 // The program with its Editor shown, an empty sequence at base note 48, and a drive C: of its own.
 #pragma once
 
+#include "core/file_places.h"
 #include "core/recent.h"
 #include "core/settings.h"
 #include "panel/editor.h"
