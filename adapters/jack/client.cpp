@@ -12,7 +12,6 @@ namespace Jack {
 namespace {
 
 constexpr const char* Client_Name = "MELVOR";
-constexpr std::size_t Input_Ring_Size = 65536;
 constexpr unsigned Connection_Periods = 2;  // until a connection is in force for both sides
 constexpr int Longest_Wait_ms = 500;        // for periods of a server that does not run, or for a connection
 constexpr int Link_Again_ms = 10;
@@ -52,8 +51,7 @@ std::shared_ptr<Client> Client::Connect(const std::weak_ptr<Worker::Queue>& work
 
 Client::Client(jack_client_t* client, const std::weak_ptr<Worker::Queue>& worker)
     : client_(client),
-      worker_(worker),
-      input_ring_(jack_ringbuffer_create(Input_Ring_Size), jack_ringbuffer_free) {
+      worker_(worker) {
   own_prefix_ = std::string(jack_get_client_name(client_)) + ":";
   sem_init(&input_waits_, 0, 0);
   input_thread_ = std::thread(&Client::Run_Input, this);
@@ -243,13 +241,10 @@ void Client::Read_Input(std::uint32_t slot, jack_nframes_t count) {
   for (std::uint32_t i = 0; i < events; ++i) {
     jack_midi_event_t event{};
     if (jack_midi_event_get(&event, buffer, i) != 0) continue;
-    const Event_Head head{slot, static_cast<std::uint32_t>(event.size)};
-    if (jack_ringbuffer_write_space(input_ring_.get()) < sizeof head + event.size) {
+    if (!Midi::Put_Record(input_ring_, slot, {reinterpret_cast<const char*>(event.buffer), event.size})) {
       inputs_[slot].lost = true;
       continue;
     }
-    jack_ringbuffer_write(input_ring_.get(), reinterpret_cast<const char*>(&head), sizeof head);
-    jack_ringbuffer_write(input_ring_.get(), reinterpret_cast<const char*>(event.buffer), event.size);
     sem_post(&input_waits_);
   }
 }
@@ -259,14 +254,15 @@ void Client::Run_Input() {
   for (;;) {
     while (sem_wait(&input_waits_) != 0) continue;  // a signal came between
     if (ended_) return;
-    Event_Head head{};
-    jack_ringbuffer_read(input_ring_.get(), reinterpret_cast<char*>(&head), sizeof head);
-    jack_ringbuffer_read(input_ring_.get(), bytes.data(), head.size);
+    const std::optional<Midi::Record_Head> head = Midi::Take_Head(input_ring_);
+    if (!head) continue;
+    const std::size_t size = input_ring_.Read(bytes.data(), head->size);
+    if (head->tag >= Slots) continue;
     const std::lock_guard lock(receivers_);
-    Input_Slot& slot = inputs_[head.slot];
+    Input_Slot& slot = inputs_[head->tag];
     if (!slot.receiver) continue;
     if (slot.lost.exchange(false)) slot.receiver(Midi::Break);
-    slot.receiver({bytes.data(), head.size});
+    slot.receiver({bytes.data(), size});
   }
 }
 

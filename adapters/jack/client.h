@@ -2,7 +2,6 @@
 #pragma once
 
 #include <jack/jack.h>
-#include <jack/ringbuffer.h>
 #include <semaphore.h>
 
 #include <array>
@@ -16,6 +15,7 @@
 #include "adapters/jack/output_slot.h"
 #include "adapters/jack/worker.h"
 #include "adapters/midi/backend.h"
+#include "adapters/midi/byte_ring.h"
 
 namespace Jack {
 
@@ -51,10 +51,7 @@ struct Client : std::enable_shared_from_this<Client> {
 
  private:
   static constexpr std::size_t Slots = 8;
-  struct Event_Head {
-    std::uint32_t slot;
-    std::uint32_t size;
-  };
+  static constexpr std::size_t Input_Ring_Size = 65536;
 
   Client(jack_client_t* client, const std::weak_ptr<Worker::Queue>& worker);
   bool Activate();
@@ -87,7 +84,7 @@ struct Client : std::enable_shared_from_this<Client> {
   std::atomic<unsigned> periods_ = 0;
   std::array<Output_Slot, Slots> outputs_;
   std::array<Input_Slot, Slots> inputs_;
-  std::unique_ptr<jack_ringbuffer_t, void (*)(jack_ringbuffer_t*)> input_ring_;
+  Midi::Byte_Ring input_ring_{Input_Ring_Size};  // of events, each with the number of its slot as its tag
   sem_t input_waits_{};
   std::atomic<bool> ended_ = false;
   std::mutex receivers_;
