@@ -31,6 +31,7 @@ struct Output_Slot {
   std::atomic<jack_port_t*> port = nullptr;  // ours
   std::atomic<bool> gone = false;            // the other port is no longer there
   std::string other;                         // full name of the other port
+  bool opened = false;                       // has become live, or will never; of the worker
 
   // User-interface thread. REQUIRES: the slot is free, or its process thread has left it.
   void Empty();
@@ -57,7 +58,7 @@ struct Output_Slot {
   std::size_t put_ = 0;  // of the sender thread
 
   // of the process thread
-  std::size_t placed_ = 0;  // in buffers, that of this period included
+  std::size_t placed_ = 0;    // in buffers, that of this period included
   jack_nframes_t stamp_ = 0;  // of the message that goes out
   std::uint32_t left_ = 0;    // bytes of it that were not placed yet
 };

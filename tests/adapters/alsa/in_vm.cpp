@@ -16,8 +16,9 @@ constexpr int Largest_Cells = 2000;
 
 // At the other end is a software client of the sequencer, "Listener", with one port "in".
 struct Software_Rig {
+  Posts posts;
   Alsa::Alsa_Backend backend;
-  Midi::Service service{{&backend}};
+  Midi::Service service{{&backend}, posts.Poster()};
 
   explicit Software_Rig(int cells) {
     snd_seq_open(&listener_, "default", SND_SEQ_OPEN_INPUT, SND_SEQ_NONBLOCK);
@@ -113,8 +114,9 @@ struct Usb_Test : testing::Test {
   }
   void TearDown() override { EXPECT_EQ(Close_Output(service, handle), Midi_Ok); }
 
+  Posts posts;
   Alsa::Alsa_Backend backend;
-  Midi::Service service{{&backend}};
+  Midi::Service service{{&backend}, posts.Poster()};
   std::optional<Cable_End> instrument{std::in_place};
   std::int32_t handle = -1;
 };
@@ -154,12 +156,11 @@ TEST_F(Usb_Test, Unplugged_It_Is_Told_And_Plugged_In_Found_Again) {
 
 // The kernel hands a long message over in pieces of 256 bytes.
 TEST_F(Usb_Test, An_Input_Joins_What_Comes_In_Pieces) {
-  Post_Desktop desktop;
   Test_Input input(service, Synth_Name);
   const Byte_String dump = Dump_Message(0).substr(0, 66) + "\xF7";
   const Byte_String large = "\xF0" + Byte_String(1000, '\x22') + "\xF7";
   for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1), large}) instrument->Write(bytes);
-  EXPECT_TRUE(desktop.Run_Until([&] { return input.received == Texts{dump, large}; }));
+  EXPECT_TRUE(posts.Run_Until([&] { return input.received == Texts{dump, large}; }));
 }
 
 TEST(Software, Keeps_The_Contract) {
