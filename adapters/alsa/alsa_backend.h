@@ -7,7 +7,7 @@
 
 namespace Alsa {
 
-struct Sequencer;
+struct Client;
 
 struct Alsa_Backend final : Midi::Backend {
   Alsa_Backend();
@@ -22,7 +22,7 @@ struct Alsa_Backend final : Midi::Backend {
   std::unique_ptr<Midi::Source> Open_Input(const Midi::Port& port, Midi::Byte_Receiver receiver) override;
 
  private:
-  std::unique_ptr<Sequencer> sequencer_;
+  std::unique_ptr<Client> client_;
 };
 
 }  // namespace Alsa

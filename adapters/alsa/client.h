@@ -29,12 +29,12 @@ struct Origin {
   Midi::Byte_Receiver receiver;
 };
 
-struct Sequencer {
+struct Client {
   // nullptr: this machine has no sequencer. Throws std::system_error where there is no thread for it.
-  static std::unique_ptr<Sequencer> Open();
-  ~Sequencer();
-  Sequencer(const Sequencer&) = delete;
-  Sequencer& operator=(const Sequencer&) = delete;
+  static std::unique_ptr<Client> Open();
+  ~Client();
+  Client(const Client&) = delete;
+  Client& operator=(const Client&) = delete;
 
   // User-interface thread. Hardware first: it is what most people want.
   std::vector<Midi::Port> Ports(Midi::Direction direction) const;
@@ -50,7 +50,7 @@ struct Sequencer {
   Midi::Write_Result Write(const Destination& destination, std::string_view bytes);
 
  private:
-  explicit Sequencer(snd_seq_t* sequencer);
+  explicit Client(snd_seq_t* sequencer);
   bool Listen_To_Announcements();
   int Make_Port(const char* name, unsigned capabilities);
   bool Encode(std::string_view bytes, snd_seq_event_t& event);
