@@ -9,35 +9,35 @@ namespace Alsa {
 namespace {
 
 struct Alsa_Sink final : Midi::Sink {
-  explicit Alsa_Sink(Client& client) : client_(client) {}
+  explicit Alsa_Sink(std::shared_ptr<Client> client) : client_(std::move(client)) {}
   ~Alsa_Sink() override {
-    if (open_) client_.Close_Output(destination_);
+    if (open_) client_->Close_Output(destination_);
   }
 
-  bool Open(const Midi::Port& port) { return open_ = client_.Open_Output(port, destination_); }
+  bool Open(const Midi::Port& port) { return open_ = client_->Open_Output(port, destination_); }
   Midi::Write_Result Write(std::string_view bytes) override {
-    return Gone() ? Midi::Write_Result::Gone : client_.Write(destination_, bytes);
+    return Gone() ? Midi::Write_Result::Gone : client_->Write(destination_, bytes);
   }
   bool Gone() const override { return destination_.gone; }
 
  private:
-  Client& client_;
+  std::shared_ptr<Client> client_;
   Destination destination_;
   bool open_ = false;
 };
 
 struct Alsa_Source final : Midi::Source {
-  Alsa_Source(Client& client, Midi::Byte_Receiver receiver) : client_(client) {
+  Alsa_Source(std::shared_ptr<Client> client, Midi::Byte_Receiver receiver) : client_(std::move(client)) {
     origin_.receiver = std::move(receiver);
   }
   ~Alsa_Source() override {
-    if (open_) client_.Close_Input(origin_);
+    if (open_) client_->Close_Input(origin_);
   }
 
-  bool Open(const Midi::Port& port) { return open_ = client_.Open_Input(port, origin_); }
+  bool Open(const Midi::Port& port) { return open_ = client_->Open_Input(port, origin_); }
 
  private:
-  Client& client_;
+  std::shared_ptr<Client> client_;
   Origin origin_;
   bool open_ = false;
 };
@@ -48,7 +48,7 @@ Alsa_Backend::Alsa_Backend() = default;
 Alsa_Backend::~Alsa_Backend() = default;
 
 void Alsa_Backend::Refresh() {
-  if (client_ != nullptr) return;
+  if (client_ != nullptr && !client_->Lost()) return;
   try {
     client_ = Client::Open();
   } catch (const std::exception&) {  // no memory, or no thread: as if there were no sequencer
@@ -62,13 +62,13 @@ std::vector<Midi::Port> Alsa_Backend::Ports(Midi::Direction direction) {
 
 std::unique_ptr<Midi::Sink> Alsa_Backend::Open_Output(const Midi::Port& port) {
   if (client_ == nullptr) return nullptr;
-  auto sink = std::make_unique<Alsa_Sink>(*client_);
+  auto sink = std::make_unique<Alsa_Sink>(client_);
   return sink->Open(port) ? std::move(sink) : nullptr;
 }
 
 std::unique_ptr<Midi::Source> Alsa_Backend::Open_Input(const Midi::Port& port, Midi::Byte_Receiver receiver) {
   if (client_ == nullptr) return nullptr;
-  auto source = std::make_unique<Alsa_Source>(*client_, std::move(receiver));
+  auto source = std::make_unique<Alsa_Source>(client_, std::move(receiver));
   return source->Open(port) ? std::move(source) : nullptr;
 }
 

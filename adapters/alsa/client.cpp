@@ -69,6 +69,25 @@ std::vector<Listed_Port> List_Ports(snd_seq_t* sequencer, Midi::Direction direct
   return ports;
 }
 
+struct Error_Row {
+  int error;
+  Midi::Write_Result result;
+};
+
+constexpr Error_Row Known_Errors[] = {
+    {-EAGAIN, Midi::Write_Result::Busy}, {-EINTR, Midi::Write_Result::Busy},
+    {-ENOMEM, Midi::Write_Result::Busy}, {-ENOENT, Midi::Write_Result::Gone},
+    {-ENODEV, Midi::Write_Result::Gone}, {-ENXIO, Midi::Write_Result::Gone},
+};
+
+Midi::Write_Result Result_Of(int result) {
+  if (result >= 0) return Midi::Write_Result::Taken;
+  for (const Error_Row& row : Known_Errors) {
+    if (row.error == result) return row.result;
+  }
+  return Midi::Write_Result::Failed;
+}
+
 bool Same_Address(const snd_seq_addr_t& one, const snd_seq_addr_t& other) {
   return one.client == other.client && one.port == other.port;
 }
@@ -212,23 +231,26 @@ Midi::Write_Result Client::Write(const Destination& destination, std::string_vie
   snd_seq_ev_set_source(&event, static_cast<unsigned char>(destination.own_port));
   snd_seq_ev_set_dest(&event, destination.address.client, destination.address.port);
   snd_seq_ev_set_direct(&event);
-  const int result = snd_seq_event_output_direct(sequencer_, &event);
-  if (result >= 0) return Midi::Write_Result::Taken;
-  const bool passing = result == -EAGAIN || result == -EINTR || result == -ENOMEM;
-  return passing ? Midi::Write_Result::Busy : Midi::Write_Result::Gone;
+  return Result_Of(snd_seq_event_output_direct(sequencer_, &event));
 }
 
 void Client::Run() {
   std::vector<pollfd> waits(static_cast<std::size_t>(snd_seq_poll_descriptors_count(sequencer_, POLLIN)));
   snd_seq_poll_descriptors(sequencer_, waits.data(), static_cast<unsigned>(waits.size()), POLLIN);
   waits.push_back({wake_, POLLIN, 0});
+  // A file in this state wakes the poll at once, each time, and has nothing to read.
+  const auto broken = [](const pollfd& wait) { return (wait.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0; };
   while (!ended_) {
-    if (poll(waits.data(), waits.size(), -1) < 0 && errno != EINTR) return;
+    if (poll(waits.data(), waits.size(), -1) < 0) {
+      if (errno == EINTR) continue;
+      break;
+    }
     eventfd_t count = 0;
     eventfd_read(wake_, &count);
     Delete_Ports();
-    Read_Events();
+    if (std::any_of(waits.begin(), waits.end(), broken) || !Read_Events()) break;
   }
+  if (!ended_) Lose_All();
 }
 
 void Client::Delete_Ports() {
@@ -240,14 +262,14 @@ void Client::Delete_Ports() {
   for (const int port : ports) snd_seq_delete_simple_port(sequencer_, port);
 }
 
-void Client::Read_Events() {
+bool Client::Read_Events() {
   for (;;) {
     snd_seq_event_t* event = nullptr;
     const int result = snd_seq_event_input(sequencer_, &event);
     if (result == -ENOSPC) {
       Break_All();
     } else if (result < 0) {
-      return;
+      return result == -EAGAIN || result == -EINTR;
     } else if (event != nullptr) {
       Take(*event);
     }
@@ -275,6 +297,12 @@ void Client::Lose(const snd_seq_event_t& event) {
         event.type == SND_SEQ_EVENT_CLIENT_EXIT && gone.client == destination->address.client;
     if (its_port || its_client) destination->gone = true;
   }
+}
+
+void Client::Lose_All() {
+  const std::lock_guard lock(ports_);
+  lost_ = true;
+  for (Destination* destination : destinations_) destination->gone = true;
 }
 
 void Client::Receive(int own_port, std::string_view bytes) {

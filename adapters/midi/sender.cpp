@@ -30,13 +30,12 @@ Sender::~Sender() {
 
 int Sender::Send(Message_Kind kind, std::string_view message) {
   const int code = line_.Take(kind, message, clock_.Now_us());
-  if (code != Midi_Ok) return code;
   {
     const std::lock_guard lock(mutex_);
     woken_ = true;
   }
-  changed_.notify_one();
-  return Midi_Ok;
+  changed_.notify_one();  // a refusal too can be the time to try again
+  return code;
 }
 
 int Sender::Close() {

@@ -72,6 +72,17 @@ TEST_F(Service_Test, A_Call_Out_Of_Order_Is_Answered_By_Its_Code) {
   }
 }
 
+TEST_F(Service_Test, A_Refused_Message_Makes_The_Port_Try_The_Failed_One_Again) {
+  ASSERT_EQ(service.Out_Open(handle, 3), Midi_Ok);
+  Fake_Port& port = second.ports["o"];
+  port.answer = Midi::Write_Result::Failed;
+  ASSERT_EQ(service.Out_Short(handle, 0x403C90), Midi_Ok);
+  ASSERT_TRUE(Await([&port] { return port.tries == 1; }));
+  port.answer = Midi::Write_Result::Taken;
+  EXPECT_TRUE(Await([this] { return Send_Long(service, handle, {}) == Midi_Error; }));
+  EXPECT_TRUE(Await([&port] { return port.Bytes() == "\x90\x3C\x40"; }));
+}
+
 TEST_F(Service_Test, A_Close_Gives_Up_Where_Nothing_Moves_Any_More) {
   ASSERT_EQ(service.Out_Open(handle, 0), Midi_Ok);
   first.ports["a"].answer = Midi::Write_Result::Busy;
