@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QIcon>
 #include <cstdlib>
+#include <functional>
+#include <utility>
 
 #include "adapters/alsa/alsa_backend.h"
 #include "adapters/instrument/instrument.h"
@@ -34,7 +36,9 @@ int main(int argc, char** argv) {
   static Alsa::Alsa_Backend alsa;
   static Jack::Jack_Backend jack;
   static Instrument::Built_In built_in;
-  static Midi::Service service({&alsa, &jack, &built_in});
+  // The desktop goes first, but the frame closes the input before.
+  static Midi::Service service({&alsa, &jack, &built_in},
+                               [&desktop](std::function<void()> fn) { desktop.Post(std::move(fn)); });
   Install_Midi_Service(&service);
 
   On_End_Signal([] { Dispatch(End_Without_Questions); });

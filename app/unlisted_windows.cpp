@@ -2,6 +2,8 @@
 // opens the window that UNLISTED_WINDOW names, "MKS-70" or a task of the file dialog, at once.
 #include <QApplication>
 #include <QIcon>
+#include <functional>
+#include <utility>
 
 #include "adapters/instrument/instrument.h"
 #include "adapters/midi/service.h"
@@ -28,7 +30,7 @@ int main(int argc, char** argv) {
   Qt_Desktop desktop(pictures);
   Install_Desktop(&desktop);
   Instrument::Built_In built_in;
-  Midi::Service service({&built_in});
+  Midi::Service service({&built_in}, [&desktop](std::function<void()> fn) { desktop.Post(std::move(fn)); });
   Install_Midi_Service(&service);
 
   On_End_Signal([] { Dispatch(End_Without_Questions); });

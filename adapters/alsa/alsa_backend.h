@@ -7,7 +7,7 @@
 
 namespace Alsa {
 
-struct Sequencer;
+struct Client;
 
 struct Alsa_Backend final : Midi::Backend {
   Alsa_Backend();
@@ -15,14 +15,14 @@ struct Alsa_Backend final : Midi::Backend {
   Alsa_Backend(const Alsa_Backend&) = delete;
   Alsa_Backend& operator=(const Alsa_Backend&) = delete;
 
-  // Where the machine had no sequencer, looks whether it has one now.
+  // Where the machine had no sequencer, or that failed, looks whether it has one now.
   void Refresh() override;
   std::vector<Midi::Port> Ports(Midi::Direction direction) override;
   std::unique_ptr<Midi::Sink> Open_Output(const Midi::Port& port) override;
   std::unique_ptr<Midi::Source> Open_Input(const Midi::Port& port, Midi::Byte_Receiver receiver) override;
 
  private:
-  std::unique_ptr<Sequencer> sequencer_;
+  std::shared_ptr<Client> client_;  // also of the open ports, while they last
 };
 
 }  // namespace Alsa

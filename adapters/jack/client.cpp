@@ -5,18 +5,19 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <exception>
+#include <limits>
 #include <utility>
 
 namespace Jack {
 namespace {
 
 constexpr const char* Client_Name = "MELVOR";
-constexpr std::size_t Input_Ring_Size = 65536;
 constexpr unsigned Connection_Periods = 2;  // until a connection is in force for both sides
-constexpr int Longest_Wait_ms = 500;        // for periods of a server that does not run, or for a connection
-constexpr int Link_Again_ms = 10;
-constexpr int Longest_Drain_ms = 10'000;
+constexpr std::int64_t Longest_Wait_us =
+    500'000;  // for periods of a server that does not run, or a connection
+constexpr std::int64_t Longest_Drain_us = 10'000'000;
+constexpr std::int64_t No_End_us = std::numeric_limits<std::int64_t>::max();
+constexpr std::chrono::milliseconds Look_Again(1);
 
 void Say_Nothing(const char* /*message*/) {}
 
@@ -39,21 +40,19 @@ std::string Port_Name(const jack_port_t* port, const char* full_name) {
 
 }  // namespace
 
-std::shared_ptr<Client> Client::Connect(const std::weak_ptr<Worker::Queue>& worker) {
+std::shared_ptr<Client> Client::Connect(const std::weak_ptr<Worker::Queue>& worker, Midi::Clock& clock) {
   Silence_Library();
   jack_client_t* opened = jack_client_open(Client_Name, JackNoStartServer, nullptr);
   if (opened == nullptr) return nullptr;
   const auto let_go = [worker](Client* client) {
     if (On_Worker(worker) || !Post_Task(worker, [client] { delete client; })) delete client;
   };
-  std::shared_ptr<Client> client(new Client(opened, worker), let_go);
+  std::shared_ptr<Client> client(new Client(opened, worker, clock), let_go);
   return client->Activate() ? client : nullptr;
 }
 
-Client::Client(jack_client_t* client, const std::weak_ptr<Worker::Queue>& worker)
-    : client_(client),
-      worker_(worker),
-      input_ring_(jack_ringbuffer_create(Input_Ring_Size), jack_ringbuffer_free) {
+Client::Client(jack_client_t* client, const std::weak_ptr<Worker::Queue>& worker, Midi::Clock& clock)
+    : client_(client), worker_(worker), clock_(clock) {
   own_prefix_ = std::string(jack_get_client_name(client_)) + ":";
   sem_init(&input_waits_, 0, 0);
   input_thread_ = std::thread(&Client::Run_Input, this);
@@ -117,44 +116,60 @@ bool Client::Has_Port(const std::string& name) const {
   return !dead_ && jack_port_by_name(client_, name.c_str()) != nullptr;
 }
 
-// Both ends of the slots' lives need the server and so run on the worker, one after another.
+// Both ends of the slots' lives need the server and so run on the worker, in steps: what one slot waits for
+// keeps no other waiting.
 template <class Slot>
 void Client::Post_Opening(Slot& slot, const char* name, unsigned long flags) {
+  slot.opened = false;
   Post_Task(worker_, [self = shared_from_this(), &slot, name, flags] {
     // A slot number behind the name: several ports may be open at once.
     for (std::size_t i = 1; i <= Slots && slot.port == nullptr && !self->dead_; ++i) {
       const std::string own = i == 1 ? name : name + std::string(" ") + std::to_string(i);
       slot.port = jack_port_register(self->client_, own.c_str(), JACK_DEFAULT_MIDI_TYPE, flags, 0);
     }
-    if (slot.port == nullptr || !self->Link_Patiently(slot)) return Lost(slot);
-    self->Wait_Periods(Connection_Periods);
-    Slot_State opening = Slot_State::Opening;
-    slot.state.compare_exchange_strong(opening, Slot_State::Live);
+    const auto linked = std::make_shared<bool>(false);
+    // A program that starts shows its ports a moment before they can be connected.
+    const auto link = [self, &slot, linked] {
+      if (slot.port == nullptr || !self->Has_Port(slot.other)) return true;
+      const int code = self->Link(slot);
+      return *linked = code == 0 || code == EEXIST;
+    };
+    self->When(link, Longest_Wait_us, [self, &slot, linked] {
+      if (!*linked) {
+        Lost(slot);
+        slot.opened = true;
+        return;
+      }
+      self->After_Periods(Connection_Periods, [&slot] {
+        slot.state = Slot_State::Live;
+        slot.opened = true;
+      });
+    });
   });
 }
 
 template <class Slot>
 void Client::Post_Closing(Slot& slot) {
   Post_Task(worker_, [self = shared_from_this(), &slot] {
-    self->Wait_Drained(slot);
-    slot.state = Slot_State::Closing;
-    jack_port_t* port = slot.port.exchange(nullptr);
-    self->Wait_Periods(1);  // the process thread has left it
-    if (port != nullptr && !self->dead_) jack_port_unregister(self->client_, port);
-    slot.state = Slot_State::Free;
+    self->When([&slot] { return slot.opened; }, No_End_us,
+               [self, &slot] {
+                 // Whoever closes does not wait for a server that stands still. Once it goes on, what was
+                 // sent still goes out: the last of it ends the notes.
+                 self->When([self, &slot] { return self->Drained(slot); }, Longest_Drain_us,
+                            [self, &slot] { self->Close_Drained(slot); });
+               });
   });
 }
 
-// A program that starts shows its ports a moment before they can be connected.
 template <class Slot>
-bool Client::Link_Patiently(Slot& slot) const {
-  for (int waited_ms = 0; waited_ms < Longest_Wait_ms && !dead_ && Has_Port(slot.other);
-       waited_ms += Link_Again_ms) {
-    const int code = Link(slot);
-    if (code == 0 || code == EEXIST) return true;
-    std::this_thread::sleep_for(std::chrono::milliseconds(Link_Again_ms));
-  }
-  return false;
+void Client::Close_Drained(Slot& slot) {
+  slot.state = Slot_State::Closing;
+  jack_port_t* port = slot.port.exchange(nullptr);
+  // By then the process thread has left it.
+  After_Periods(1, [self = shared_from_this(), &slot, port] {
+    if (port != nullptr && !self->dead_) jack_port_unregister(self->client_, port);
+    slot.state = Slot_State::Free;
+  });
 }
 
 int Client::Link(const Output_Slot& slot) const {
@@ -165,28 +180,38 @@ int Client::Link(const Input_Slot& slot) const {
   return jack_connect(client_, slot.other.c_str(), jack_port_name(slot.port));
 }
 
-void Client::Wait_Periods(unsigned count) const {
-  const unsigned start = periods_;
-  for (int waited_ms = 0; waited_ms < Longest_Wait_ms && !dead_ && periods_ - start <= count; ++waited_ms) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  }
+bool Client::Drained(const Output_Slot& slot) const {
+  return dead_ || slot.gone || slot.port == nullptr || slot.Drained();
 }
 
-// Whoever closes does not wait for a server that stands still. Once it goes on, what was sent still goes out:
-// the last of it ends the notes.
-void Client::Wait_Drained(const Output_Slot& slot) const {
-  for (int waited_ms = 0; waited_ms < Longest_Drain_ms; ++waited_ms) {
-    if (dead_ || slot.gone || slot.port == nullptr || slot.Drained()) return;
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  }
+void Client::When(Look look, std::int64_t patience_us, Task next) {
+  const std::int64_t now_us = clock_.Now_us();
+  Look_Until(patience_us == No_End_us ? No_End_us : now_us + patience_us, std::move(look), std::move(next));
+}
+
+void Client::Look_Until(std::int64_t end_us, Look look, Task next) {
+  if (look() || clock_.Now_us() >= end_us) return next();
+  Post_Task(
+      worker_,
+      [self = shared_from_this(), end_us, look = std::move(look), next = std::move(next)]() mutable {
+        self->Look_Until(end_us, std::move(look), std::move(next));
+      },
+      Look_Again);
+}
+
+void Client::After_Periods(unsigned count, Task next) {
+  const auto passed = [this, start = periods_.load(), count] { return dead_ || periods_ - start > count; };
+  When(passed, Longest_Wait_us, std::move(next));
 }
 
 void Client::Find_Gone() {
   look_posted_ = false;
-  Wait_Periods(Connection_Periods);  // the server tells before the port has really gone
-  for (Output_Slot& slot : outputs_) {
-    if (slot.state == Slot_State::Live && !Has_Port(slot.other)) slot.gone = true;
-  }
+  // The server tells before the port has really gone.
+  After_Periods(Connection_Periods, [self = shared_from_this()] {
+    for (Output_Slot& slot : self->outputs_) {
+      if (slot.state == Slot_State::Live && !self->Has_Port(slot.other)) slot.gone = true;
+    }
+  });
 }
 
 Output_Slot* Client::Open_Output(const std::string& destination) {
@@ -243,13 +268,10 @@ void Client::Read_Input(std::uint32_t slot, jack_nframes_t count) {
   for (std::uint32_t i = 0; i < events; ++i) {
     jack_midi_event_t event{};
     if (jack_midi_event_get(&event, buffer, i) != 0) continue;
-    const Event_Head head{slot, static_cast<std::uint32_t>(event.size)};
-    if (jack_ringbuffer_write_space(input_ring_.get()) < sizeof head + event.size) {
+    if (!Midi::Put_Record(input_ring_, slot, {reinterpret_cast<const char*>(event.buffer), event.size})) {
       inputs_[slot].lost = true;
       continue;
     }
-    jack_ringbuffer_write(input_ring_.get(), reinterpret_cast<const char*>(&head), sizeof head);
-    jack_ringbuffer_write(input_ring_.get(), reinterpret_cast<const char*>(event.buffer), event.size);
     sem_post(&input_waits_);
   }
 }
@@ -259,14 +281,15 @@ void Client::Run_Input() {
   for (;;) {
     while (sem_wait(&input_waits_) != 0) continue;  // a signal came between
     if (ended_) return;
-    Event_Head head{};
-    jack_ringbuffer_read(input_ring_.get(), reinterpret_cast<char*>(&head), sizeof head);
-    jack_ringbuffer_read(input_ring_.get(), bytes.data(), head.size);
+    const std::optional<Midi::Record_Head> head = Midi::Take_Head(input_ring_);
+    if (!head) continue;
+    const std::size_t size = input_ring_.Read(bytes.data(), head->size);
+    if (head->tag >= Slots) continue;
     const std::lock_guard lock(receivers_);
-    Input_Slot& slot = inputs_[head.slot];
+    Input_Slot& slot = inputs_[head->tag];
     if (!slot.receiver) continue;
     if (slot.lost.exchange(false)) slot.receiver(Midi::Break);
-    slot.receiver({bytes.data(), head.size});
+    slot.receiver({bytes.data(), size});
   }
 }
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <jack/jack.h>
-#include <jack/ringbuffer.h>
 #include <semaphore.h>
 
 #include <array>
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -16,6 +16,8 @@
 #include "adapters/jack/output_slot.h"
 #include "adapters/jack/worker.h"
 #include "adapters/midi/backend.h"
+#include "adapters/midi/byte_ring.h"
+#include "adapters/midi/clock.h"
 
 namespace Jack {
 
@@ -24,13 +26,14 @@ struct Input_Slot {
   std::atomic<jack_port_t*> port = nullptr;
   std::atomic<bool> lost = false;  // an event that had no room
   std::string other;               // full name of the other port
+  bool opened = false;             // has become live, or will never; of the worker
   Midi::Byte_Receiver receiver;    // under Client's lock
 };
 
 struct Client : std::enable_shared_from_this<Client> {
   // Connects to the running server, on the worker; never starts one. nullptr: there is none. The client is
   // taken down on the worker too, whoever lets it go last.
-  static std::shared_ptr<Client> Connect(const std::weak_ptr<Worker::Queue>& worker);
+  static std::shared_ptr<Client> Connect(const std::weak_ptr<Worker::Queue>& worker, Midi::Clock& clock);
   ~Client();
   Client(const Client&) = delete;
   Client& operator=(const Client&) = delete;
@@ -51,12 +54,9 @@ struct Client : std::enable_shared_from_this<Client> {
 
  private:
   static constexpr std::size_t Slots = 8;
-  struct Event_Head {
-    std::uint32_t slot;
-    std::uint32_t size;
-  };
+  static constexpr std::size_t Input_Ring_Size = 65536;
 
-  Client(jack_client_t* client, const std::weak_ptr<Worker::Queue>& worker);
+  Client(jack_client_t* client, const std::weak_ptr<Worker::Queue>& worker, Midi::Clock& clock);
   bool Activate();
   bool Has_Port(const std::string& name) const;
   template <class Slot>
@@ -64,14 +64,21 @@ struct Client : std::enable_shared_from_this<Client> {
   template <class Slot>
   void Post_Closing(Slot& slot);
   template <class Slot>
-  bool Link_Patiently(Slot& slot) const;
+  void Close_Drained(Slot& slot);
   int Link(const Output_Slot& slot) const;
   int Link(const Input_Slot& slot) const;
   static void Lost(Output_Slot& slot) { slot.gone = true; }
   static void Lost(Input_Slot&) {}  // an input whose port is not there stays silent
-  void Wait_Periods(unsigned count) const;
-  void Wait_Drained(const Output_Slot& slot) const;
-  void Wait_Drained(const Input_Slot&) const {}
+  // Whether nothing of the slot is on its way any more, or can be.
+  bool Drained(const Output_Slot& slot) const;
+  bool Drained(const Input_Slot&) const { return true; }
+  // Calls look on the worker, again and again and other tasks between, until it holds or the clock has gone
+  // on by patience_us; then next. Worker only.
+  using Look = std::function<bool()>;
+  using Task = std::function<void()>;
+  void When(Look look, std::int64_t patience_us, Task next);
+  void Look_Until(std::int64_t end_us, Look look, Task next);
+  void After_Periods(unsigned count, Task next);
   void Find_Gone();
   int Process(jack_nframes_t count);
   void Read_Input(std::uint32_t slot, jack_nframes_t count);
@@ -81,13 +88,14 @@ struct Client : std::enable_shared_from_this<Client> {
   std::mutex taking_down_;       // guards what follows
   bool taken_down_ = false;
   std::weak_ptr<Worker::Queue> worker_;
+  Midi::Clock& clock_;
   std::string own_prefix_;  // our name and ":"
   std::atomic<bool> dead_ = false;
   std::atomic<bool> look_posted_ = false;  // for ports that have gone
   std::atomic<unsigned> periods_ = 0;
   std::array<Output_Slot, Slots> outputs_;
   std::array<Input_Slot, Slots> inputs_;
-  std::unique_ptr<jack_ringbuffer_t, void (*)(jack_ringbuffer_t*)> input_ring_;
+  Midi::Byte_Ring input_ring_{Input_Ring_Size};  // of events, each with the number of its slot as its tag
   sem_t input_waits_{};
   std::atomic<bool> ended_ = false;
   std::mutex receivers_;

@@ -39,7 +39,7 @@ struct Jack_Source final : Midi::Source {
 
 }  // namespace
 
-Jack_Backend::Jack_Backend() : worker_(std::make_unique<Worker>()) {}
+Jack_Backend::Jack_Backend(Midi::Clock& clock) : clock_(clock), worker_(std::make_unique<Worker>()) {}
 Jack_Backend::~Jack_Backend() = default;
 
 void Jack_Backend::Refresh() {
@@ -51,9 +51,9 @@ void Jack_Backend::Refresh() {
     patience = Connect_Wait;
     auto connected = std::make_shared<std::promise<std::shared_ptr<Client>>>();
     connecting_ = connected->get_future();
-    worker_->Post([connected, tasks = worker_->Tasks()] {
+    worker_->Post([connected, tasks = worker_->Tasks(), &clock = clock_] {
       try {
-        connected->set_value(Client::Connect(tasks));
+        connected->set_value(Client::Connect(tasks, clock));
       } catch (const std::exception&) {  // no memory, or no thread: as if there were no server
         connected->set_value(nullptr);
       }

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "adapters/midi/backend.h"
+#include "adapters/midi/clock.h"
 
 namespace Jack {
 
@@ -12,7 +13,7 @@ struct Client;
 struct Worker;
 
 struct Jack_Backend final : Midi::Backend {
-  Jack_Backend();
+  explicit Jack_Backend(Midi::Clock& clock = Midi::Steady_Clock());
   ~Jack_Backend() override;
   Jack_Backend(const Jack_Backend&) = delete;
   Jack_Backend& operator=(const Jack_Backend&) = delete;
@@ -25,6 +26,7 @@ struct Jack_Backend final : Midi::Backend {
   std::unique_ptr<Midi::Source> Open_Input(const Midi::Port& port, Midi::Byte_Receiver receiver) override;
 
  private:
+  Midi::Clock& clock_;
   std::unique_ptr<Worker> worker_;
   std::shared_ptr<Client> client_;
   std::future<std::shared_ptr<Client>> connecting_;

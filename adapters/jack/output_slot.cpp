@@ -5,10 +5,6 @@
 #include <algorithm>
 
 namespace Jack {
-namespace {
-// More than an output ever has under way: 4,096 bytes and one long message, with their heads.
-constexpr std::size_t Ring_Size = 32768;
-}  // namespace
 
 std::optional<jack_nframes_t> Offset_In_Period(jack_nframes_t stamp, jack_nframes_t period_start,
                                                jack_nframes_t count) {
@@ -21,10 +17,8 @@ std::optional<jack_nframes_t> Offset_In_Period(jack_nframes_t stamp, jack_nframe
   return static_cast<jack_nframes_t>(frames);
 }
 
-Output_Slot::Output_Slot() : ring_(jack_ringbuffer_create(Ring_Size), jack_ringbuffer_free) {}
-
 void Output_Slot::Empty() {
-  jack_ringbuffer_reset(ring_.get());
+  ring_.Reset();
   passed_ = 0;
   put_ = 0;
   placed_ = 0;
@@ -33,24 +27,18 @@ void Output_Slot::Empty() {
 }
 
 bool Output_Slot::Put(jack_nframes_t now, std::string_view message) {
-  const Head head{now, static_cast<std::uint32_t>(message.size())};
-  if (jack_ringbuffer_write_space(ring_.get()) < sizeof head + message.size()) return false;
-  jack_ringbuffer_write(ring_.get(), reinterpret_cast<const char*>(&head), sizeof head);
-  jack_ringbuffer_write(ring_.get(), message.data(), message.size());
+  if (!Midi::Put_Record(ring_, now, message)) return false;
   put_ += message.size();
   return true;
 }
 
-// Makes the next message the one that goes out, if there is a whole one.
+// Makes the next message the one that goes out, if there is one.
 bool Output_Slot::Next_Message() {
   if (left_ > 0) return true;
-  Head head{};
-  if (jack_ringbuffer_peek(ring_.get(), reinterpret_cast<char*>(&head), sizeof head) < sizeof head)
-    return false;
-  if (jack_ringbuffer_read_space(ring_.get()) < sizeof head + head.size) return false;
-  jack_ringbuffer_read_advance(ring_.get(), sizeof head);
-  head_ = head;
-  left_ = head.size;
+  const std::optional<Midi::Record_Head> head = Midi::Take_Head(ring_);
+  if (!head) return false;
+  stamp_ = head->tag;
+  left_ = head->size;
   return true;
 }
 
@@ -64,7 +52,7 @@ void Output_Slot::Process(jack_nframes_t period_start, jack_nframes_t count) {
   jack_nframes_t last_offset = 0;
   bool empty = true;
   while (Next_Message()) {
-    const std::optional<jack_nframes_t> due = Offset_In_Period(head_.frame, period_start, count);
+    const std::optional<jack_nframes_t> due = Offset_In_Period(stamp_, period_start, count);
     if (!due) return;
     const jack_nframes_t offset = std::max(*due, last_offset);
     const std::size_t room = jack_midi_max_event_size(buffer);
@@ -73,7 +61,7 @@ void Output_Slot::Process(jack_nframes_t period_start, jack_nframes_t count) {
     const auto size = static_cast<std::uint32_t>(std::min<std::size_t>(room, left_));
     jack_midi_data_t* data = jack_midi_event_reserve(buffer, offset, size);
     if (data == nullptr) return;
-    jack_ringbuffer_read(ring_.get(), reinterpret_cast<char*>(data), size);
+    ring_.Read(reinterpret_cast<char*>(data), size);
     left_ -= size;
     placed_ += size;
     last_offset = offset;

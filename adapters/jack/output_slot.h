@@ -2,15 +2,15 @@
 #pragma once
 
 #include <jack/jack.h>
-#include <jack/ringbuffer.h>
 
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "adapters/midi/byte_ring.h"
 
 namespace Jack {
 
@@ -27,17 +27,16 @@ std::optional<jack_nframes_t> Offset_In_Period(jack_nframes_t stamp, jack_nframe
                                                jack_nframes_t count);
 
 struct Output_Slot {
-  Output_Slot();
-
   std::atomic<Slot_State> state = Slot_State::Free;
   std::atomic<jack_port_t*> port = nullptr;  // ours
   std::atomic<bool> gone = false;            // the other port is no longer there
   std::string other;                         // full name of the other port
+  bool opened = false;                       // has become live, or will never; of the worker
 
   // User-interface thread. REQUIRES: the slot is free, or its process thread has left it.
   void Empty();
   // Sender thread. Puts a message in as a whole, with the frame time of now; false: no room.
-  bool Put(jack_nframes_t now, std::string_view message);
+  [[nodiscard]] bool Put(jack_nframes_t now, std::string_view message);
   // Bytes of messages in periods that have ended, since the slot was opened. Any thread.
   std::size_t Passed_Bytes() const { return passed_; }
   // Whether all that was put in has gone out. REQUIRES: the sender thread has ended.
@@ -49,20 +48,19 @@ struct Output_Slot {
   void Process(jack_nframes_t period_start, jack_nframes_t count);
 
  private:
-  struct Head {
-    jack_nframes_t frame;
-    std::uint32_t size;
-  };
   bool Next_Message();
 
-  std::unique_ptr<jack_ringbuffer_t, void (*)(jack_ringbuffer_t*)> ring_;
+  // More than an output ever has under way: 4,096 bytes and one long message, with their heads.
+  static constexpr std::size_t Ring_Size = 32768;
+
+  Midi::Byte_Ring ring_{Ring_Size};  // of messages, each with the frame of its stamp as its tag
   std::atomic<std::size_t> passed_ = 0;
   std::size_t put_ = 0;  // of the sender thread
 
   // of the process thread
-  std::size_t placed_ = 0;  // in buffers, that of this period included
-  Head head_{};             // of the message that goes out
-  std::uint32_t left_ = 0;  // bytes of it that were not placed yet
+  std::size_t placed_ = 0;    // in buffers, that of this period included
+  jack_nframes_t stamp_ = 0;  // of the message that goes out
+  std::uint32_t left_ = 0;    // bytes of it that were not placed yet
 };
 
 }  // namespace Jack

@@ -1,22 +1,30 @@
 #include "adapters/jack/worker.h"
 
-#include <chrono>
 #include <thread>
 #include <utility>
 
 namespace Jack {
 namespace {
 
+using Steady = std::chrono::steady_clock;
 constexpr std::chrono::seconds Patience(1);
 
 void Run_Tasks(const std::shared_ptr<Worker::Queue>& queue) {
   std::unique_lock lock(queue->mutex);
   queue->thread = std::this_thread::get_id();
   for (;;) {
-    queue->changed.wait(lock, [&queue] { return queue->ending || !queue->tasks.empty(); });
-    if (queue->tasks.empty()) break;
-    std::function<void()> task = std::move(queue->tasks.front());
-    queue->tasks.pop_front();
+    if (queue->tasks.empty()) {
+      if (queue->ending) break;
+      queue->changed.wait(lock);
+      continue;
+    }
+    const auto first = queue->tasks.begin();
+    if (const auto due = first->first; due > Steady::now()) {
+      queue->changed.wait_until(lock, due);
+      continue;
+    }
+    std::function<void()> task = std::move(first->second);
+    queue->tasks.erase(first);
     lock.unlock();
     task();
     task = nullptr;  // what it holds goes here, not under the lock
@@ -39,12 +47,13 @@ Worker::~Worker() {
 
 void Worker::Post(std::function<void()> task) { Post_Task(queue_, std::move(task)); }
 
-bool Post_Task(const std::weak_ptr<Worker::Queue>& queue, std::function<void()> task) {
+bool Post_Task(const std::weak_ptr<Worker::Queue>& queue, std::function<void()> task,
+               std::chrono::milliseconds delay) {
   const std::shared_ptr<Worker::Queue> tasks = queue.lock();
   if (tasks == nullptr) return false;
   const std::lock_guard lock(tasks->mutex);
   if (tasks->ended) return false;
-  tasks->tasks.push_back(std::move(task));
+  tasks->tasks.emplace(Steady::now() + delay, std::move(task));
   tasks->changed.notify_all();
   return true;
 }

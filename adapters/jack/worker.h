@@ -2,9 +2,10 @@
 // not.
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
-#include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -14,19 +15,21 @@ namespace Jack {
 struct Worker {
   // Throws std::system_error where the system has no thread for it.
   Worker();
-  // Lets the tasks end that were posted, for up to a second. Then they are left behind with their thread: a
-  // server that stays stopped does not keep the program from ending.
+  // Lets the tasks end that were posted, and those that they post, for up to a second. Then they are left
+  // behind with their thread: a server that stays stopped does not keep the program from ending.
   ~Worker();
   Worker(const Worker&) = delete;
   Worker& operator=(const Worker&) = delete;
 
-  // Runs the tasks one after another, in order. From any thread but the server's process thread.
+  // Runs the tasks one after another, in the order in which they are due. From any thread but the server's
+  // process thread.
   void Post(std::function<void()> task);
 
   struct Queue {
     std::mutex mutex;
     std::condition_variable changed;
-    std::deque<std::function<void()>> tasks;
+    std::multimap<std::chrono::steady_clock::time_point, std::function<void()>>
+        tasks;  // by when they are due
     bool ending = false;
     bool ended = false;
     std::thread::id thread;
@@ -38,8 +41,9 @@ struct Worker {
   std::shared_ptr<Queue> queue_;
 };
 
-// Puts a task at the end of the queue. False if the queue has come to its end.
-bool Post_Task(const std::weak_ptr<Worker::Queue>& queue, std::function<void()> task);
+// Puts a task into the queue, behind those that are due by then. False if the queue has come to its end.
+bool Post_Task(const std::weak_ptr<Worker::Queue>& queue, std::function<void()> task,
+               std::chrono::milliseconds delay = {});
 
 // Whether the caller is one of the queue's tasks.
 bool On_Worker(const std::weak_ptr<Worker::Queue>& queue);

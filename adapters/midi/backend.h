@@ -22,8 +22,9 @@ struct Port {
 
 enum class Write_Result {
   Taken,
-  Busy,  // nothing was taken: try again later
-  Gone,  // the port is no longer there, and nothing will be taken any more
+  Busy,    // nothing was taken: try again later
+  Failed,  // an error of this one write: nothing was taken, and the next try may succeed
+  Gone,    // the port is no longer there, and nothing will be taken any more
 };
 
 // An open output port. Destroyed on the user-interface thread, once the sender has stopped; does not wait.

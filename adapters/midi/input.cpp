@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/desktop.h"
-
 namespace Midi {
 
-Input::Input(Midi_Receiver receiver) : state_(std::make_shared<State>()) {
+Input::Input(Midi_Receiver receiver, Poster post)
+    : post_(std::move(post)), state_(std::make_shared<State>()) {
   state_->receiver = std::move(receiver);
 }
 
@@ -50,8 +49,7 @@ void Input::Take_Bytes(std::string_view bytes) {
   assembler_.Put(bytes, [this](std::string&& message) {
     const unsigned run = state_->run;
     if (run == 0) return;
-    The_Desktop().Post(
-        [state = state_, run, message = std::move(message)]() mutable { Deliver(state, run, message); });
+    post_([state = state_, run, message = std::move(message)]() mutable { Deliver(state, run, message); });
   });
 }
 

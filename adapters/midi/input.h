@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -13,9 +14,12 @@
 
 namespace Midi {
 
+// Runs a function on the user-interface thread, after those that it was given before. Any thread.
+using Poster = std::function<void(std::function<void()>)>;
+
 // User-interface thread only, but for the bytes that come from its source.
 struct Input {
-  explicit Input(Midi_Receiver receiver);
+  Input(Midi_Receiver receiver, Poster post);
   ~Input();
   Input(const Input&) = delete;
   Input& operator=(const Input&) = delete;
@@ -39,6 +43,7 @@ struct Input {
   void Take_Bytes(std::string_view bytes);
   static void Deliver(const std::shared_ptr<State>& state, unsigned run, std::string& message);
 
+  Poster post_;
   std::shared_ptr<State> state_;
   Sysex_Assembler assembler_;
   std::unique_ptr<Source> source_;

@@ -38,6 +38,8 @@ int Output_Line::Take(Message_Kind kind, std::string_view message, std::int64_t 
   int code = Midi_Ok;
   if (gone_ || sink_->Gone()) {
     code = Midi_No_Device;
+  } else if (std::exchange(failed_, false)) {
+    code = Midi_Error;
   } else if (message.size() > Longest_Message) {
     code = Midi_Invalid_Parameter;
   } else if (Waiting_Bytes() >= Bound(kind, message)) {
@@ -62,7 +64,7 @@ std::int64_t Output_Line::Pump(std::int64_t now_us) {
     std::size_t size = 0;
     {
       const std::lock_guard lock(mutex_);
-      if (gone_ || queue_.Empty()) return Never_us;
+      if (gone_ || failed_ || queue_.Empty()) return Never_us;
       const std::int64_t due_us = Due_us();
       if (due_us > now_us) return due_us;
       size = std::min(queue_.Front_Size() - progress_, Largest_Write);
@@ -76,6 +78,8 @@ std::int64_t Output_Line::Pump(std::int64_t now_us) {
     } else if (result == Write_Result::Busy) {
       retry_after_us_ = std::clamp(2 * retry_after_us_, First_Retry_us, Last_Retry_us);
       retry_at_us_ = now_us + retry_after_us_;
+    } else if (result == Write_Result::Failed) {
+      failed_ = true;
     } else {
       gone_ = true;
     }

@@ -34,9 +34,10 @@ struct Output_Line {
   Output_Line(std::unique_ptr<Sink> sink, bool paced);
 
   // Takes a message for delivery behind all others. 0; 67: too much waits; 68: the port has gone; 11: longer
-  // than Longest_Message. An empty message is taken and nothing comes of it. Any thread; does not wait for
+  // than Longest_Message; 1: the port failed to take an earlier message, which is reported once, and tried
+  // again at the next Pump. An empty message is taken and nothing comes of it. Any thread; does not wait for
   // the port.
-  int Take(Message_Kind kind, std::string_view message, std::int64_t now_us);
+  [[nodiscard]] int Take(Message_Kind kind, std::string_view message, std::int64_t now_us);
 
   // Passes on what is due. Returns the time at which it wants to be called again, Never_us: not before the
   // next Take. One thread only.
@@ -59,6 +60,7 @@ struct Output_Line {
   std::size_t taken_bytes_ = 0;
   std::size_t written_bytes_ = 0;
   bool gone_ = false;
+  bool failed_ = false;              // not reported yet; nothing is passed on until then
   std::size_t progress_ = 0;         // bytes of the oldest message that were passed on
   std::int64_t wire_free_us_ = 0;    // when the wire has carried what was passed on
   std::int64_t retry_at_us_ = 0;     // a busy port is not asked before

@@ -10,21 +10,12 @@ namespace {
 
 constexpr std::int64_t Close_Wait_us = 10'000;
 constexpr std::int64_t Give_Up_us = 1'000'000;
-constexpr std::chrono::milliseconds Close_Step(1);
-
-using Steady = std::chrono::steady_clock;
-
-std::int64_t Now_us() {
-  return std::chrono::duration_cast<std::chrono::microseconds>(Steady::now().time_since_epoch()).count();
-}
-
-Steady::time_point Time_Point(std::int64_t time_us) {
-  return Steady::time_point(std::chrono::microseconds(time_us));
-}
+constexpr std::int64_t Close_Step_us = 1000;
 
 }  // namespace
 
-Sender::Sender(std::unique_ptr<Sink> sink, bool paced) : line_(std::move(sink), paced) {
+Sender::Sender(std::unique_ptr<Sink> sink, bool paced, Clock& clock)
+    : clock_(clock), line_(std::move(sink), paced) {
   thread_ = std::thread(&Sender::Run, this);
 }
 
@@ -38,20 +29,19 @@ Sender::~Sender() {
 }
 
 int Sender::Send(Message_Kind kind, std::string_view message) {
-  const int code = line_.Take(kind, message, Now_us());
-  if (code != Midi_Ok) return code;
+  const int code = line_.Take(kind, message, clock_.Now_us());
   {
     const std::lock_guard lock(mutex_);
     woken_ = true;
   }
-  changed_.notify_one();
-  return Midi_Ok;
+  changed_.notify_one();  // a refusal too can be the time to try again
+  return code;
 }
 
 int Sender::Close() {
-  const std::int64_t end_us = Now_us() + Close_Wait_us;
+  const std::int64_t end_us = clock_.Now_us() + Close_Wait_us;
   for (;;) {
-    const std::int64_t now_us = Now_us();
+    const std::int64_t now_us = clock_.Now_us();
     const std::size_t bytes = line_.Bytes_Under_Way(now_us);
     if (bytes == 0) return Midi_Ok;
     if (close_moved_us_ < 0 || bytes != close_bytes_) close_moved_us_ = now_us;
@@ -59,7 +49,7 @@ int Sender::Close() {
     if (now_us - close_moved_us_ >= Give_Up_us) return Midi_Ok;
     if (now_us >= end_us) return Midi_Still_Playing;
     // What waits inside a system leaves without notice, so the line is looked at again from time to time.
-    std::this_thread::sleep_for(Close_Step);
+    clock_.Sleep_us(Close_Step_us);
   }
 }
 
@@ -68,13 +58,13 @@ void Sender::Run() {
   while (!ended_) {
     woken_ = false;
     lock.unlock();
-    const std::int64_t again_us = line_.Pump(Now_us());
+    const std::int64_t again_us = line_.Pump(clock_.Now_us());
     lock.lock();
     const auto called = [this] { return woken_ || ended_; };
     if (again_us == Never_us) {
       changed_.wait(lock, called);
     } else {
-      changed_.wait_until(lock, Time_Point(again_us), called);
+      changed_.wait_for(lock, std::chrono::microseconds(again_us - clock_.Now_us()), called);
     }
   }
 }

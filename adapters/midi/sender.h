@@ -8,13 +8,14 @@
 #include <string_view>
 #include <thread>
 
+#include "adapters/midi/clock.h"
 #include "adapters/midi/output_line.h"
 
 namespace Midi {
 
 struct Sender {
   // Throws std::system_error where the system has no thread for it.
-  Sender(std::unique_ptr<Sink> sink, bool paced);
+  Sender(std::unique_ptr<Sink> sink, bool paced, Clock& clock);
   // What still waits is dropped.
   ~Sender();
   Sender(const Sender&) = delete;
@@ -32,6 +33,7 @@ struct Sender {
  private:
   void Run();
 
+  Clock& clock_;
   Output_Line line_;
   std::mutex mutex_;
   std::condition_variable changed_;

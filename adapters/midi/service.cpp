@@ -29,7 +29,11 @@ bool Is_There(Backend& backend, const Port& port, Direction direction) {
 
 }  // namespace
 
-Service::Service(std::vector<Backend*> backends) : backends_(std::move(backends)) { Refresh(); }
+Service::Service(std::vector<Backend*> backends, Poster post, Clock& clock)
+    : backends_(std::move(backends)), post_(std::move(post)), clock_(clock) {
+  Refresh();
+}
+
 Service::~Service() = default;
 
 void Service::Refresh() {
@@ -93,9 +97,9 @@ int Service::In_Caps(int device, MIDI_In_Caps& caps) {
 }
 
 int Service::Out_Open(std::int32_t& handle, int device) {
-  const auto open = [](Backend& backend, const Port& port) -> std::unique_ptr<Sender> {
+  const auto open = [this](Backend& backend, const Port& port) -> std::unique_ptr<Sender> {
     std::unique_ptr<Sink> sink = backend.Open_Output(port);
-    return sink == nullptr ? nullptr : std::make_unique<Sender>(std::move(sink), port.wire);
+    return sink == nullptr ? nullptr : std::make_unique<Sender>(std::move(sink), port.wire, clock_);
   };
   return Open_End(open_outputs_, Direction::Output, device, handle, open);
 }
@@ -140,8 +144,8 @@ int Service::Out_Close(std::int32_t handle) {
 }
 
 int Service::In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) {
-  const auto open = [&receiver](Backend& backend, const Port& port) -> std::unique_ptr<Input> {
-    auto input = std::make_unique<Input>(std::move(receiver));
+  const auto open = [this, &receiver](Backend& backend, const Port& port) -> std::unique_ptr<Input> {
+    auto input = std::make_unique<Input>(std::move(receiver), post_);
     return input->Open(backend, port) ? std::move(input) : nullptr;
   };
   return Open_End(open_inputs_, Direction::Input, device, handle, open);

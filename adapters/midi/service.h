@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "adapters/midi/backend.h"
+#include "adapters/midi/clock.h"
 #include "adapters/midi/input.h"
 #include "adapters/midi/sender.h"
 #include "platform/midi_service.h"
@@ -16,8 +17,9 @@
 namespace Midi {
 
 struct Service final : Midi_Service {
-  // Makes its lists at once. The backends stay the caller's and outlive the service.
-  explicit Service(std::vector<Backend*> backends);
+  // Makes its lists at once. The backends stay the caller's and outlive the service. post: brings received
+  // messages to the user-interface thread.
+  Service(std::vector<Backend*> backends, Poster post, Clock& clock = Steady_Clock());
   ~Service() override;
   Service(const Service&) = delete;
   Service& operator=(const Service&) = delete;
@@ -68,6 +70,8 @@ struct Service final : Midi_Service {
                const Open& open_end);
 
   std::vector<Backend*> backends_;
+  Poster post_;
+  Clock& clock_;
   std::vector<Device> outputs_;
   std::vector<Device> inputs_;
   Open_Devices<Sender> open_outputs_;

@@ -43,11 +43,11 @@ void Work(Control* control, Deed deed) {
   });
 }
 
-// What a light view shows: an element of a panel, a canvas, or a mere decoration.
-struct Light_Accessible final : QAccessibleWidget, QAccessibleValueInterface {
-  explicit Light_Accessible(Light_Widget& light)
-      : QAccessibleWidget(&light), light_(light), cells_(light, [&light](const Mouse_Event& place) {
-          Control* canvas = light.control;
+// What a painted view shows: an element of a panel, a canvas, or a mere decoration.
+struct Painted_Accessible final : QAccessibleWidget, QAccessibleValueInterface {
+  explicit Painted_Accessible(Painted_Widget& painted)
+      : QAccessibleWidget(&painted), painted_(painted), cells_(painted, [&painted](const Mouse_Event& place) {
+          Control* canvas = painted.control;
           Work(canvas, [canvas, place] { User_Pressed(*canvas, place); });
         }) {}
 
@@ -78,26 +78,26 @@ struct Light_Accessible final : QAccessibleWidget, QAccessibleValueInterface {
   bool Has_Scale() const { return Picture() != nullptr && Picture()->scale.value; }
   bool Has_Cells() const { return cells_.Count() > 0; }
 
-  Light_Widget& light_;
+  Painted_Widget& painted_;
   mutable Accessible_Cells cells_;
 };
 
-Picture_Box* Light_Accessible::Picture() const {
-  const bool picture = light_.control != nullptr && light_.control->kind == Kind::Picture_Box;
-  return picture ? static_cast<Picture_Box*>(light_.control) : nullptr;
+Picture_Box* Painted_Accessible::Picture() const {
+  const bool picture = painted_.control != nullptr && painted_.control->kind == Kind::Picture_Box;
+  return picture ? static_cast<Picture_Box*>(painted_.control) : nullptr;
 }
 
-QAccessible::Role Light_Accessible::role() const {
+QAccessible::Role Painted_Accessible::role() const {
   if (Has_Cells()) return QAccessible::Canvas;
   return Picture() == nullptr ? QAccessible::Graphic : Role_Of(*Picture());
 }
 
-QAccessible::State Light_Accessible::state() const {
+QAccessible::State Painted_Accessible::state() const {
   QAccessible::State state = QAccessibleWidget::state();
-  if (light_.control == nullptr) return state;
-  state.disabled = !Usable(*light_.control);
+  if (painted_.control == nullptr) return state;
+  state.disabled = !Usable(*painted_.control);
   // The symbol on a button and the lines of a field have nothing to say.
-  if (light_.control->spoken_name.empty()) state.invisible = true;
+  if (painted_.control->spoken_name.empty()) state.invisible = true;
   if (Picture() != nullptr && Picture()->is_on) {
     state.checkable = true;
     state.checked = Picture()->is_on();
@@ -105,28 +105,28 @@ QAccessible::State Light_Accessible::state() const {
   return state;
 }
 
-QString Light_Accessible::text(QAccessible::Text kind) const {
+QString Painted_Accessible::text(QAccessible::Text kind) const {
   const bool value = kind == QAccessible::Value || kind == QAccessible::Description;
-  if (!value || light_.control == nullptr) return QAccessibleWidget::text(kind);
-  const std::string spoken = Spoken_Value(*light_.control);
+  if (!value || painted_.control == nullptr) return QAccessibleWidget::text(kind);
+  const std::string spoken = Spoken_Value(*painted_.control);
   return spoken.empty() ? QAccessibleWidget::text(kind) : To_Qt(spoken);
 }
 
-void* Light_Accessible::interface_cast(QAccessible::InterfaceType type) {
+void* Painted_Accessible::interface_cast(QAccessible::InterfaceType type) {
   if (type == QAccessible::ValueInterface) {
     return Has_Scale() ? static_cast<QAccessibleValueInterface*>(this) : nullptr;
   }
   return QAccessibleWidget::interface_cast(type);
 }
 
-QStringList Light_Accessible::actionNames() const {
+QStringList Painted_Accessible::actionNames() const {
   QStringList names = QAccessibleWidget::actionNames();
   if (Has_Scale()) return names << increaseAction() << decreaseAction();
   if (Picture() != nullptr && Picture()->role != Role::Picture) names << pressAction();
   return names;
 }
 
-void Light_Accessible::doAction(const QString& action) {
+void Painted_Accessible::doAction(const QString& action) {
   Picture_Box* picture = Picture();
   if (action == pressAction()) {
     Work(picture, [picture] {
@@ -141,7 +141,7 @@ void Light_Accessible::doAction(const QString& action) {
   }
 }
 
-void Light_Accessible::setCurrentValue(const QVariant& value) {
+void Painted_Accessible::setCurrentValue(const QVariant& value) {
   Picture_Box* picture = Picture();
   const int wanted = static_cast<int>(std::lround(value.toDouble()));
   Work(picture, [picture, wanted] { User_Turned(*picture, wanted); });
@@ -184,7 +184,7 @@ struct Drop_Down_Accessible final : QAccessibleWidget {
 };
 
 QAccessibleInterface* Make_Accessible(const QString&, QObject* object) {
-  if (auto* light = dynamic_cast<Light_Widget*>(object)) return new Light_Accessible(*light);
+  if (auto* painted = dynamic_cast<Painted_Widget*>(object)) return new Painted_Accessible(*painted);
   if (auto* list = dynamic_cast<QComboBox*>(object)) return new Drop_Down_Accessible(*list);
   return nullptr;
 }

@@ -7,20 +7,20 @@
 
 namespace {
 
-const Cells* Cells_Of(const Light_Widget& light) {
-  if (light.control == nullptr || light.control->kind != Kind::Canvas) return nullptr;
-  const Cells& cells = static_cast<const Canvas*>(light.control)->cells;
+const Cells* Cells_Of(const Painted_Widget& painted) {
+  if (painted.control == nullptr || painted.control->kind != Kind::Canvas) return nullptr;
+  const Cells& cells = static_cast<const Canvas*>(painted.control)->cells;
   return cells.spoken_name ? &cells : nullptr;
 }
 
 struct Cell_Accessible final : QAccessibleInterface, QAccessibleActionInterface {
-  Cell_Accessible(Light_Widget& light, int cell, const Accessible_Cells::Press& press)
-      : light_(light), cell_(cell), press_(press) {}
+  Cell_Accessible(Painted_Widget& painted, int cell, const Accessible_Cells::Press& press)
+      : painted_(painted), cell_(cell), press_(press) {}
 
-  bool isValid() const override { return Cells_Of(light_) != nullptr; }
+  bool isValid() const override { return Cells_Of(painted_) != nullptr; }
   QObject* object() const override { return nullptr; }
-  QWindow* window() const override { return light_.window()->windowHandle(); }
-  QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(&light_); }
+  QWindow* window() const override { return painted_.window()->windowHandle(); }
+  QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(&painted_); }
   QAccessibleInterface* childAt(int, int) const override { return nullptr; }
   QAccessibleInterface* child(int) const override { return nullptr; }
   int childCount() const override { return 0; }
@@ -42,7 +42,7 @@ struct Cell_Accessible final : QAccessibleInterface, QAccessibleActionInterface 
  private:
   QRect Place() const;  // in the canvas
 
-  Light_Widget& light_;
+  Painted_Widget& painted_;
   const int cell_;
   const Accessible_Cells::Press& press_;
 };
@@ -51,12 +51,12 @@ QAccessible::State Cell_Accessible::state() const {
   QAccessible::State state = parent()->state();
   if (!isValid()) return state;
   state.checkable = true;
-  state.checked = !Cells_Of(light_)->spoken_value(cell_).empty();
+  state.checked = !Cells_Of(painted_)->spoken_value(cell_).empty();
   return state;
 }
 
 QString Cell_Accessible::text(QAccessible::Text kind) const {
-  const Cells* cells = Cells_Of(light_);
+  const Cells* cells = Cells_Of(painted_);
   if (cells == nullptr) return {};
   if (kind == QAccessible::Name) return To_Qt(cells->spoken_name(cell_));
   const bool value = kind == QAccessible::Value || kind == QAccessible::Description;
@@ -64,16 +64,16 @@ QString Cell_Accessible::text(QAccessible::Text kind) const {
 }
 
 QRect Cell_Accessible::Place() const {
-  const Cells* cells = Cells_Of(light_);
+  const Cells* cells = Cells_Of(painted_);
   if (cells == nullptr) return {};
   const int size_px = cells->size_px;
   return {cell_ / cells->rows * size_px, cell_ % cells->rows * size_px, size_px, size_px};
 }
 
-QRect Cell_Accessible::rect() const { return Place().translated(light_.mapToGlobal(QPoint(0, 0))); }
+QRect Cell_Accessible::rect() const { return Place().translated(painted_.mapToGlobal(QPoint(0, 0))); }
 
 QStringList Cell_Accessible::actionNames() const {
-  const Cells* cells = Cells_Of(light_);
+  const Cells* cells = Cells_Of(painted_);
   return cells == nullptr ? QStringList()
                           : QStringList{To_Qt(cells->left_action), To_Qt(cells->right_action)};
 }
@@ -93,9 +93,9 @@ Accessible_Cells::~Accessible_Cells() {
 }
 
 int Accessible_Cells::Count() const {
-  const Cells* cells = Cells_Of(light_);
+  const Cells* cells = Cells_Of(painted_);
   if (cells == nullptr) return 0;
-  const Control& canvas = *light_.control;
+  const Control& canvas = *painted_.control;
   const auto fit = [&](int length_px) { return (length_px + cells->size_px - 1) / cells->size_px; };
   return fit(canvas.width()) * cells->rows;
 }
@@ -103,7 +103,7 @@ int Accessible_Cells::Count() const {
 QAccessibleInterface* Accessible_Cells::Cell(int cell) {
   while (ids_.size() < static_cast<std::size_t>(Count())) {
     const int next = static_cast<int>(ids_.size());
-    ids_.push_back(QAccessible::registerAccessibleInterface(new Cell_Accessible(light_, next, press_)));
+    ids_.push_back(QAccessible::registerAccessibleInterface(new Cell_Accessible(painted_, next, press_)));
   }
   return cell < 0 || cell >= Count() ? nullptr
                                      : QAccessible::accessibleInterface(ids_[static_cast<std::size_t>(cell)]);

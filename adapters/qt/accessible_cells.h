@@ -7,14 +7,14 @@
 
 #include "platform/controls.h"
 
-struct Light_Widget;
+struct Painted_Widget;
 
 // Lives as long as the canvas' own accessible interface.
 struct Accessible_Cells {
   // Where a mouse button goes down on the canvas, as the user's deed.
   using Press = std::function<void(const Mouse_Event&)>;
 
-  Accessible_Cells(Light_Widget& light, Press press) : light_(light), press_(std::move(press)) {}
+  Accessible_Cells(Painted_Widget& painted, Press press) : painted_(painted), press_(std::move(press)) {}
   ~Accessible_Cells();
   Accessible_Cells(const Accessible_Cells&) = delete;
   Accessible_Cells& operator=(const Accessible_Cells&) = delete;
@@ -24,7 +24,7 @@ struct Accessible_Cells {
   int Index_Of(const QAccessibleInterface* cell) const;  // -1: none of them
 
  private:
-  Light_Widget& light_;
+  Painted_Widget& painted_;
   Press press_;
   std::vector<QAccessible::Id> ids_;  // by cell; empty until the first is asked for
 };

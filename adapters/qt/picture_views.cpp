@@ -7,23 +7,23 @@
 #include "adapters/qt/qt_text.h"
 #include "adapters/qt/shell.h"
 
-void Light_Widget::paintEvent(QPaintEvent*) {
+void Painted_Widget::paintEvent(QPaintEvent*) {
   if (control == nullptr) return;
   QPainter painter(this);
   paint(painter);
 }
 
-Light_View::Light_View(Shell& the_shell, Control& the_control, QWidget& parent)
-    : Control_View(the_shell, the_control, *new Light_Widget(parent), {}) {
-  auto& light = static_cast<Light_Widget&>(widget);
-  light.control = &control;
-  light.paint = [this](QPainter& painter) { Paint(painter); };
-  light.setAccessibleName(To_Qt(control.spoken_name));
+Painted_View::Painted_View(Shell& the_shell, Control& the_control, QWidget& parent)
+    : Control_View(the_shell, the_control, *new Painted_Widget(parent), {}) {
+  auto& painted = static_cast<Painted_Widget&>(widget);
+  painted.control = &control;
+  painted.paint = [this](QPainter& painter) { Paint(painter); };
+  painted.setAccessibleName(To_Qt(control.spoken_name));
 }
 
-Light_View::~Light_View() { static_cast<Light_Widget&>(widget).control = nullptr; }
+Painted_View::~Painted_View() { static_cast<Painted_Widget&>(widget).control = nullptr; }
 
-void Light_View::Paint_Picture(QPainter& painter, const Picture& picture, QPoint place) {
+void Painted_View::Paint_Picture(QPainter& painter, const Picture& picture, QPoint place) {
   const QPixmap pixmap = shell.pictures.Get(picture, widget.devicePixelRatioF());
   if (!pixmap.isNull()) painter.drawPixmap(place, pixmap);
 }
@@ -78,7 +78,7 @@ void Canvas_View::Paint(QPainter& painter) {
 }
 
 Line_View::Line_View(Shell& the_shell, Control& the_control, QWidget& parent)
-    : Light_View(the_shell, the_control, parent) {
+    : Painted_View(the_shell, the_control, parent) {
   widget.setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 

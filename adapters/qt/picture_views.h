@@ -8,8 +8,8 @@
 #include "adapters/qt/control_view.h"
 
 // A widget that paints by its view and is known to screen readers by its control (accessible.h).
-struct Light_Widget final : QWidget {
-  explicit Light_Widget(QWidget& parent) : QWidget(&parent) {}
+struct Painted_Widget final : QWidget {
+  explicit Painted_Widget(QWidget& parent) : QWidget(&parent) {}
 
   Control* control = nullptr;  // nullptr once its form is closed
   std::function<void(QPainter&)> paint;
@@ -17,17 +17,17 @@ struct Light_Widget final : QWidget {
   void paintEvent(QPaintEvent* event) override;
 };
 
-struct Light_View : Control_View {
-  Light_View(Shell& shell, Control& control, QWidget& parent);
-  ~Light_View() override;
+struct Painted_View : Control_View {
+  Painted_View(Shell& shell, Control& control, QWidget& parent);
+  ~Painted_View() override;
 
  protected:
   virtual void Paint(QPainter& painter) = 0;
   void Paint_Picture(QPainter& painter, const Picture& picture, QPoint place);
 };
 
-struct Picture_Box_View final : Light_View {
-  using Light_View::Light_View;
+struct Picture_Box_View final : Painted_View {
+  using Painted_View::Painted_View;
 
   QPoint Inset() const override;
 
@@ -38,8 +38,8 @@ struct Picture_Box_View final : Light_View {
   Picture shown_;
 };
 
-struct Canvas_View final : Light_View {
-  using Light_View::Light_View;
+struct Canvas_View final : Painted_View {
+  using Painted_View::Painted_View;
 
  private:
   void Show_Values() override;
@@ -51,7 +51,7 @@ struct Canvas_View final : Light_View {
   Color shown_color_ = Black;
 };
 
-struct Line_View final : Light_View {
+struct Line_View final : Painted_View {
   Line_View(Shell& shell, Control& control, QWidget& parent);
 
  private:

@@ -71,12 +71,12 @@ void Expect_Contract(Midi_Service& service, const std::string& name,
   EXPECT_EQ(Hex_Text(received(want.size())), Hex_Text(want));
 }
 
-void Post_Desktop::Post(std::function<void()> fn) {
+void Posts::Add(std::function<void()> fn) {
   const std::lock_guard lock(mutex_);
   posts_.push_back(std::move(fn));
 }
 
-void Post_Desktop::Run_Posts() {
+void Posts::Run() {
   std::unique_lock lock(mutex_);
   const auto posts = std::exchange(posts_, {});
   lock.unlock();

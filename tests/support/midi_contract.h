@@ -7,9 +7,10 @@
 #include <array>
 #include <functional>
 #include <mutex>
+#include <utility>
+#include <vector>
 
 #include "support/recording_service.h"
-#include "support/still_desktop.h"
 
 // 90 bytes: a message whose first half a second F0 ends. number: of the tone in it.
 Byte_String Dump_Message(int number);
@@ -31,19 +32,23 @@ bool Await(const std::function<bool()>& condition);
 void Expect_Contract(Midi_Service& service, const std::string& name,
                      const std::function<Byte_String(std::size_t count)>& received);
 
-// A desktop that can do nothing but take posts from other threads.
-struct Post_Desktop final : Still_Desktop {
-  void Post(std::function<void()> fn) override;
-  void Run_Posts();
+// The user-interface thread's end of a service: what other threads posted waits until the test runs it.
+struct Posts {
+  std::function<void(std::function<void()>)> Poster() {
+    return [this](std::function<void()> fn) { Add(std::move(fn)); };
+  }
+  void Run();
   // Runs posts until the condition holds, for up to 20 s. False: it never did.
   bool Run_Until(const std::function<bool()>& condition) {
     return Await([&] {
-      Run_Posts();
+      Run();
       return condition();
     });
   }
 
  private:
+  void Add(std::function<void()> fn);
+
   std::mutex mutex_;
   std::vector<std::function<void()>> posts_;
 };

@@ -1,5 +1,7 @@
 // The ALSA backend against the kernel's sequencer, as root in a virtual machine (run_in_vm.sh).
 #include <alsa/asoundlib.h>
+#include <fcntl.h>
+#include <unistd.h>
 #include <fstream>
 #include <optional>
 
@@ -13,18 +15,19 @@ constexpr const char* Synth_Name = "Test Synth MIDI 1";
 constexpr const char* Plug = "/config/usb_gadget/synth/UDC";  // of the cable: takes what it goes into
 constexpr int Usual_Cells = 200;  // that the kernel keeps for a client until it reads
 constexpr int Largest_Cells = 2000;
+constexpr unsigned Open_To_All = SND_SEQ_PORT_CAP_WRITE | SND_SEQ_PORT_CAP_SUBS_WRITE;
 
 // At the other end is a software client of the sequencer, "Listener", with one port "in".
 struct Software_Rig {
+  Posts posts;
   Alsa::Alsa_Backend backend;
-  Midi::Service service{{&backend}};
+  Midi::Service service{{&backend}, posts.Poster()};
 
   explicit Software_Rig(int cells) {
     snd_seq_open(&listener_, "default", SND_SEQ_OPEN_INPUT, SND_SEQ_NONBLOCK);
     snd_seq_set_client_name(listener_, "Listener");
     snd_seq_set_client_pool_input(listener_, static_cast<std::size_t>(cells));
-    snd_seq_create_simple_port(listener_, "in", SND_SEQ_PORT_CAP_WRITE | SND_SEQ_PORT_CAP_SUBS_WRITE,
-                               SND_SEQ_PORT_TYPE_MIDI_GENERIC);
+    snd_seq_create_simple_port(listener_, "in", Open_To_All, SND_SEQ_PORT_TYPE_MIDI_GENERIC);
     snd_midi_event_new(0, &decoder_);
     snd_midi_event_no_status(decoder_, 1);
     service.Refresh();
@@ -34,6 +37,13 @@ struct Software_Rig {
     snd_seq_close(listener_);
   }
 
+  void Allow(unsigned capabilities) {  // what others may do with the port
+    snd_seq_port_info_t* port = nullptr;
+    snd_seq_port_info_alloca(&port);
+    EXPECT_GE(snd_seq_get_port_info(listener_, 0, port), 0);
+    snd_seq_port_info_set_capability(port, capabilities);
+    EXPECT_GE(snd_seq_set_port_info(listener_, 0, port), 0);
+  }
   Byte_String Received(std::size_t count) {
     Byte_String bytes;
     Await([&] { return (bytes += Read()).size() >= count; });
@@ -113,8 +123,9 @@ struct Usb_Test : testing::Test {
   }
   void TearDown() override { EXPECT_EQ(Close_Output(service, handle), Midi_Ok); }
 
+  Posts posts;
   Alsa::Alsa_Backend backend;
-  Midi::Service service{{&backend}};
+  Midi::Service service{{&backend}, posts.Poster()};
   std::optional<Cable_End> instrument{std::in_place};
   std::int32_t handle = -1;
 };
@@ -154,12 +165,11 @@ TEST_F(Usb_Test, Unplugged_It_Is_Told_And_Plugged_In_Found_Again) {
 
 // The kernel hands a long message over in pieces of 256 bytes.
 TEST_F(Usb_Test, An_Input_Joins_What_Comes_In_Pieces) {
-  Post_Desktop desktop;
   Test_Input input(service, Synth_Name);
   const Byte_String dump = Dump_Message(0).substr(0, 66) + "\xF7";
   const Byte_String large = "\xF0" + Byte_String(1000, '\x22') + "\xF7";
   for (const Byte_String& bytes : {dump.substr(0, 1), dump.substr(1), large}) instrument->Write(bytes);
-  EXPECT_TRUE(desktop.Run_Until([&] { return input.received == Texts{dump, large}; }));
+  EXPECT_TRUE(posts.Run_Until([&] { return input.received == Texts{dump, large}; }));
 }
 
 TEST(Software, Keeps_The_Contract) {
@@ -177,6 +187,48 @@ TEST(Software, What_A_Slow_Client_Does_Not_Read_Yet_Waits_For_It) {
   for (; send(); want += Dump_Message(0)) ASSERT_LT(want.size(), 2 * Room);
   EXPECT_EQ(rig.service.Out_Close(handle), Midi_Still_Playing);
   EXPECT_EQ(Hex_Text(rig.Received(want.size())), Hex_Text(want));
+}
+
+TEST(Software, An_Error_Of_One_Send_Is_Reported_And_The_Message_Tried_Again) {
+  Software_Rig rig(Usual_Cells);
+  const std::int32_t handle = Open_Output(rig.service, "Listener in");
+  rig.Allow(0);
+  ASSERT_EQ(rig.service.Out_Short(handle, 0x403C90), Midi_Ok);
+  EXPECT_TRUE(Await([&] { return Send_Long(rig.service, handle, {}) == Midi_Error; }));
+  rig.Allow(Open_To_All);
+  Byte_String heard;
+  EXPECT_TRUE(Await([&] {
+    Send_Long(rig.service, handle, {});  // the one before may have come too early
+    return !(heard += rig.Received(0)).empty();
+  }));
+  EXPECT_EQ(Hex_Text(heard), "90 3C 40");
+}
+
+// The lowest file of this process that is the sequencer's: the backend's own.
+int Sequencer_File() {
+  char name[64] = {};
+  for (int file = 0; file < 100; ++file) {
+    const std::string link = "/proc/self/fd/" + std::to_string(file);
+    const ssize_t size = readlink(link.c_str(), name, sizeof name);
+    if (size > 0 && std::string_view(name, static_cast<std::size_t>(size)) == "/dev/snd/seq") return file;
+  }
+  return -1;
+}
+
+TEST(Software, A_Sequencer_That_Fails_Is_Reported_And_Opened_Anew) {
+  Software_Rig rig(Usual_Cells);
+  std::int32_t handle = Open_Output(rig.service, "Listener in");
+  const std::int32_t other = Open_Output(rig.service, "Midi Through Port-0");
+  const int nothing = open("/", O_PATH);  // knows neither reading nor writing nor waiting
+  ASSERT_GE(dup2(nothing, Sequencer_File()), 0);
+  close(nothing);
+  EXPECT_EQ(Close_Output(rig.service, other), Midi_Ok);  // the reader looks up
+  EXPECT_TRUE(Await([&] { return Send_Long(rig.service, handle, {}) == Midi_No_Device; }));
+  EXPECT_EQ(Close_Output(rig.service, handle), Midi_Ok);
+  rig.service.Refresh();
+  handle = Open_Output(rig.service, "Listener in");
+  EXPECT_EQ(rig.service.Out_Short(handle, 0x403C90), Midi_Ok);
+  EXPECT_EQ(Hex_Text(rig.Received(3)), "90 3C 40");
 }
 
 }  // namespace

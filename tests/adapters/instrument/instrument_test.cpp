@@ -51,15 +51,15 @@ TEST(Receiver, A_Parameter_Message_Holds_Pairs_Up_To_Its_End) {
 }
 
 TEST(Built_In, Transmits_Its_Tone_To_Who_Starts_To_Listen) {
-  Post_Desktop desktop;
+  Posts posts;
   Instrument::Built_In instrument;
-  Midi::Service service({&instrument});
+  Midi::Service service({&instrument}, posts.Poster());
   const std::int32_t handle = Open_Output(service, "Built-in JX-8P");
   const Byte_String dump = Dump("F0 41 35 09 21 20 01") + "\xF7";
   ASSERT_EQ(Send_Long(service, handle, dump), Midi_Ok);
   ASSERT_TRUE(Await([&] { return instrument.Values(Tone) == Counting_Tone(); }));
   Test_Input input(service, "Built-in JX-8P");
-  EXPECT_TRUE(desktop.Run_Until([&] { return input.received == Texts{dump}; }));
+  EXPECT_TRUE(posts.Run_Until([&] { return input.received == Texts{dump}; }));
 }
 
 }  // namespace

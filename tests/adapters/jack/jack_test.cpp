@@ -10,6 +10,7 @@
 #include "adapters/jack/jack_backend.h"
 #include "adapters/jack/output_slot.h"
 #include "adapters/midi/service.h"
+#include "support/hand_clock.h"
 #include "support/jack_capture/jack_peer.h"
 #include "support/midi_contract.h"
 
@@ -55,8 +56,10 @@ struct Jack_Server {
 struct Jack_Rig {
   Jack_Server server;
   std::unique_ptr<Jack_Peer> peer = std::make_unique<Jack_Peer>("peer");
-  Jack::Jack_Backend backend;
-  Midi::Service service{{&backend}};
+  Hand_Clock clock;
+  Posts posts;
+  Jack::Jack_Backend backend{clock};
+  Midi::Service service{{&backend}, posts.Poster(), clock};
 
   Byte_String Received(std::size_t count) {
     Byte_String bytes;
@@ -110,6 +113,23 @@ TEST(Jack, While_The_Server_Stands_Still_No_Call_Waits_And_Nothing_Is_Lost) {
   EXPECT_EQ(Hex_Text(rig.Received(want.size())), Hex_Text(want));
 }
 
+// A client that is not done with its period stops all others, while the server itself still answers.
+TEST(Jack, An_Output_That_Still_Drains_Delays_The_Opening_Of_No_Other) {
+  Jack_Rig rig;
+  const std::int32_t first = Open_Output(rig.service, "peer:in");
+  ASSERT_EQ(rig.service.Out_Short(first, 0x403C90), Midi_Ok);
+  EXPECT_EQ(Hex_Text(rig.Received(3)), "90 3C 40");
+  std::unique_lock period = rig.peer->Hold();
+  ASSERT_EQ(rig.service.Out_Short(first, 0x007BB0), Midi_Ok);
+  EXPECT_EQ(Close_Output(rig.service, first), Midi_Ok);
+  const std::int32_t second = Open_Output(rig.service, "peer:in");
+  ASSERT_EQ(rig.service.Out_Short(second, 0x403D90), Midi_Ok);
+  EXPECT_TRUE(Await([&] { return rig.peer->Sees("MELVOR:out 2"); }));
+  EXPECT_TRUE(rig.peer->Sees("MELVOR:out"));
+  period.unlock();
+  EXPECT_EQ(Hex_Text(rig.Received(6)), "B0 7B 00 90 3D 40");
+}
+
 TEST(Jack, A_Port_That_Goes_Is_Told_By_Code) {
   Jack_Rig rig;
   const std::int32_t handle = Open_Output(rig.service, "peer:in");
@@ -127,7 +147,8 @@ TEST(Jack, A_Port_That_Goes_Is_Told_By_Code) {
 TEST(Jack, A_Server_That_Dies_Is_Told_And_Found_Again) {
   Jack_Server server;
   Jack::Jack_Backend backend;
-  Midi::Service service({&backend});
+  Posts posts;
+  Midi::Service service({&backend}, posts.Poster());
   for (int life = 0; life < 2; ++life) {
     std::FILE* capture = popen("exec " JACK_CAPTURE " /dev/stdout peer", "r");
     std::int32_t handle = -1;
@@ -160,11 +181,10 @@ TEST(Jack, Hardware_Ports_Are_Known_By_Their_Alias_And_Paced) {
 }
 
 TEST(Jack, An_Input_Hears_Its_Port) {
-  Post_Desktop desktop;
   Jack_Rig rig;
   Test_Input input(rig.service, "peer:out");
   // The connection is made in the background: send until the first has come.
-  EXPECT_TRUE(desktop.Run_Until([&] {
+  EXPECT_TRUE(rig.posts.Run_Until([&] {
     rig.peer->Send("\xF0\x41\xF7");
     return !input.received.empty() && input.received[0] == "\xF0\x41\xF7";
   }));

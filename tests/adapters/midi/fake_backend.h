@@ -14,6 +14,7 @@
 // An output port, and what was written to it. Safe for threads.
 struct Fake_Port {
   std::atomic<Midi::Write_Result> answer = Midi::Write_Result::Taken;
+  std::atomic<int> tries = 0;
 
   std::string Bytes() {
     const std::lock_guard lock(mutex);
@@ -29,6 +30,7 @@ struct Fake_Sink final : Midi::Sink {
   Midi::Write_Result Write(std::string_view bytes) override {
     const std::lock_guard lock(port.mutex);
     if (port.answer == Midi::Write_Result::Taken) port.bytes += bytes;
+    ++port.tries;
     return port.answer;
   }
   bool Gone() const override { return port.answer == Midi::Write_Result::Gone; }

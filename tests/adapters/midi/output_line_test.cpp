@@ -34,7 +34,7 @@ TEST_F(Line_Test, An_Idle_Wire_Takes_A_Message_At_Once_And_A_Busy_One_Keeps_Its_
     EXPECT_EQ(line.Pump(at_us), next_us);
     EXPECT_EQ(port.Bytes().size(), written) << at_us;
   }
-  line.Take(Message_Kind::Short, "\x90\x3C\x40", 32910);
+  EXPECT_EQ(line.Take(Message_Kind::Short, "\x90\x3C\x40", 32910), Midi_Ok);
   EXPECT_EQ(line.Pump(32910), 32960);
 }
 
@@ -66,6 +66,21 @@ TEST_F(Line_Test, A_Large_Message_Is_Written_In_Pieces_And_A_Huge_One_Refused) {
   EXPECT_EQ(Long(message), Midi_Ok);
   Run_Until(60'000'000);
   EXPECT_EQ(port.Bytes(), message);
+}
+
+TEST_F(Line_Test, An_Error_Of_One_Write_Is_Reported_Once_And_The_Message_Tried_Again) {
+  port.answer = Midi::Write_Result::Failed;
+  EXPECT_EQ(Long("ab"), Midi_Ok);
+  EXPECT_EQ(line.Pump(now_us), Midi::Never_us) << "until it was reported";
+  for (int times = 0; times < 2; ++times) {
+    EXPECT_EQ(Long("cd"), Midi_Error);
+    EXPECT_EQ(Long("ef"), Midi_Ok);
+    line.Pump(now_us);
+  }
+  port.answer = Midi::Write_Result::Taken;
+  EXPECT_EQ(Long("gh"), Midi_Error);
+  Run_Until(10'000);
+  EXPECT_EQ(port.Bytes(), "abefef");
 }
 
 TEST_F(Line_Test, Of_A_Port_That_Goes_In_Mid_Stream_Nothing_Is_Under_Way) {

@@ -1,18 +1,19 @@
-// The list of backends as one service, and the contract over a wire of it.
+// The list of backends as one service.
 #include "adapters/midi/service.h"
 
 #include <thread>
 
 #include "adapters/midi/device_names.h"
 #include "fake_backend.h"
+#include "support/hand_clock.h"
 #include "support/midi_contract.h"
 
 namespace {
 
-TEST(Service, Keeps_The_Contract_Over_A_Wire) {
+TEST(Service, Keeps_The_Contract) {
   Fake_Backend backend;
-  backend.outputs = {{"Synth", "1", true}};
-  Midi::Service service({&backend});
+  backend.outputs = {{"Synth", "1", false}};
+  Midi::Service service({&backend}, nullptr);
   Expect_Contract(service, "Synth", [&](std::size_t) { return backend.ports["1"].Bytes(); });
 }
 
@@ -30,9 +31,10 @@ struct Service_Test : testing::Test {
     return names;
   }
 
-  Post_Desktop desktop;
+  Posts posts;
+  Hand_Clock clock;
   Fake_Backend first, second;
-  Midi::Service service{{&first, &second}};
+  Midi::Service service{{&first, &second}, posts.Poster(), clock};
   std::int32_t handle = -1;
 };
 
@@ -70,12 +72,32 @@ TEST_F(Service_Test, A_Call_Out_Of_Order_Is_Answered_By_Its_Code) {
   }
 }
 
+TEST_F(Service_Test, A_Refused_Message_Makes_The_Port_Try_The_Failed_One_Again) {
+  ASSERT_EQ(service.Out_Open(handle, 3), Midi_Ok);
+  Fake_Port& port = second.ports["o"];
+  port.answer = Midi::Write_Result::Failed;
+  ASSERT_EQ(service.Out_Short(handle, 0x403C90), Midi_Ok);
+  ASSERT_TRUE(Await([&port] { return port.tries == 1; }));
+  port.answer = Midi::Write_Result::Taken;
+  EXPECT_TRUE(Await([this] { return Send_Long(service, handle, {}) == Midi_Error; }));
+  EXPECT_TRUE(Await([&port] { return port.Bytes() == "\x90\x3C\x40"; }));
+}
+
 TEST_F(Service_Test, A_Close_Gives_Up_Where_Nothing_Moves_Any_More) {
   ASSERT_EQ(service.Out_Open(handle, 0), Midi_Ok);
   first.ports["a"].answer = Midi::Write_Result::Busy;
   ASSERT_EQ(service.Out_Short(handle, 0x403C90), Midi_Ok);
-  EXPECT_EQ(service.Out_Close(handle), Midi_Still_Playing);
-  EXPECT_EQ(Close_Output(service, handle), Midi_Ok);
+  for (int asked = 0; asked < 99; ++asked) ASSERT_EQ(service.Out_Close(handle), Midi_Still_Playing) << asked;
+  EXPECT_EQ(service.Out_Close(handle), Midi_Ok);
+}
+
+TEST_F(Service_Test, A_Close_Waits_Until_The_Wire_Has_Carried_All) {
+  ASSERT_EQ(service.Out_Open(handle, 0), Midi_Ok);
+  ASSERT_EQ(Send_Long(service, handle, Byte_String(90, 'x')), Midi_Ok);
+  ASSERT_TRUE(Await([this] { return first.ports["a"].Bytes().size() == 90; }));
+  for (int asked = 0; asked < 2; ++asked) EXPECT_EQ(service.Out_Close(handle), Midi_Still_Playing);
+  EXPECT_EQ(service.Out_Close(handle), Midi_Ok);
+  EXPECT_EQ(clock.Now_us(), 29'000);
 }
 
 TEST_F(Service_Test, An_Input_Hands_Whole_Messages_To_The_User_Interface_And_None_From_Before_Its_Opening) {
@@ -89,7 +111,7 @@ TEST_F(Service_Test, An_Input_Hands_Whole_Messages_To_The_User_Interface_And_Non
     for (const char* piece : {"\x90\x3C\x40\xF0\x41", "\x35\xF7\xF0\x02", "\xF7"}) second.receiver(piece);
   }).join();
   EXPECT_TRUE(input.received.empty()) << "not before the user interface runs its posts";
-  desktop.Run_Posts();
+  posts.Run();
   EXPECT_EQ(input.received, (Texts{"\xF0\x41\x35\xF7", "\xF0\x02\xF7"}));
 }
 
@@ -108,7 +130,7 @@ TEST_F(Service_Test, A_Message_Without_A_Buffer_That_Holds_It_Is_Dropped_And_A_R
   }
   ASSERT_EQ(service.In_Start(handle), Midi_Ok);
   second.receiver("\xF0\x01\x02\xF7\xF0\x03\x04\xF7\xF0\x05\xF7\xF0\x06\xF7");
-  desktop.Run_Posts();
+  posts.Run();
   EXPECT_EQ(received, (Texts{"\xF0\x01\x02\xF7", "\xF0\x05\xF7"}));
 }
 

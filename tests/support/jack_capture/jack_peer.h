@@ -37,6 +37,9 @@ struct Jack_Peer {
   void Close() {
     if (client_ != nullptr) jack_client_close(std::exchange(client_, nullptr));
   }
+  bool Sees(const char* port) const { return jack_port_by_name(client_, port) != nullptr; }
+  // As long as the lock is held, this client does not end its period.
+  std::unique_lock<std::mutex> Hold() { return std::unique_lock(mutex_); }
   bool Is_Open() const { return client_ != nullptr; }  // false: no server runs
   bool Is_Dead() const { return dead_; }               // the server has gone
 

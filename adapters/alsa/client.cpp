@@ -1,4 +1,4 @@
-#include "adapters/alsa/sequencer.h"
+#include "adapters/alsa/client.h"
 
 #include <poll.h>
 #include <sys/eventfd.h>
@@ -69,24 +69,42 @@ std::vector<Listed_Port> List_Ports(snd_seq_t* sequencer, Midi::Direction direct
   return ports;
 }
 
+struct Error_Row {
+  int error;
+  Midi::Write_Result result;
+};
+
+constexpr Error_Row Known_Errors[] = {
+    {-EAGAIN, Midi::Write_Result::Busy}, {-EINTR, Midi::Write_Result::Busy},
+    {-ENOMEM, Midi::Write_Result::Busy}, {-ENOENT, Midi::Write_Result::Gone},
+    {-ENODEV, Midi::Write_Result::Gone}, {-ENXIO, Midi::Write_Result::Gone},
+};
+
+Midi::Write_Result Result_Of(int result) {
+  if (result >= 0) return Midi::Write_Result::Taken;
+  for (const Error_Row& row : Known_Errors) {
+    if (row.error == result) return row.result;
+  }
+  return Midi::Write_Result::Failed;
+}
+
 bool Same_Address(const snd_seq_addr_t& one, const snd_seq_addr_t& other) {
   return one.client == other.client && one.port == other.port;
 }
 
 }  // namespace
 
-std::unique_ptr<Sequencer> Sequencer::Open() {
+std::unique_ptr<Client> Client::Open() {
   snd_lib_error_set_handler(Say_Nothing);
   snd_seq_t* opened = nullptr;
   if (snd_seq_open(&opened, "default", SND_SEQ_OPEN_DUPLEX, SND_SEQ_NONBLOCK) < 0) return nullptr;
-  std::unique_ptr<Sequencer> sequencer(new Sequencer(opened));
-  if (!sequencer->Listen_To_Announcements()) return nullptr;
-  sequencer->thread_ = std::thread(&Sequencer::Run, sequencer.get());
-  return sequencer;
+  std::unique_ptr<Client> client(new Client(opened));
+  if (!client->Listen_To_Announcements()) return nullptr;
+  client->thread_ = std::thread(&Client::Run, client.get());
+  return client;
 }
 
-Sequencer::Sequencer(snd_seq_t* sequencer)
-    : sequencer_(sequencer), wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+Client::Client(snd_seq_t* sequencer) : sequencer_(sequencer), wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
   pollfd descriptor{};
   snd_seq_poll_descriptors(sequencer_, &descriptor, 1, POLLOUT);
   file_ = descriptor.fd;
@@ -94,7 +112,7 @@ Sequencer::Sequencer(snd_seq_t* sequencer)
   snd_seq_set_client_pool_input(sequencer_, Input_Cells);
 }
 
-Sequencer::~Sequencer() {
+Client::~Client() {
   ended_ = true;
   eventfd_write(wake_, 1);
   if (thread_.joinable()) thread_.join();
@@ -105,7 +123,7 @@ Sequencer::~Sequencer() {
   snd_seq_close(sequencer_);
 }
 
-bool Sequencer::Listen_To_Announcements() {
+bool Client::Listen_To_Announcements() {
   if (wake_ < 0) return false;
   for (snd_midi_event_t** coder : {&decoder_, &encoder_}) {
     if (snd_midi_event_new(Decoded_Size, coder) < 0) return false;
@@ -116,12 +134,12 @@ bool Sequencer::Listen_To_Announcements() {
                                                      SND_SEQ_PORT_SYSTEM_ANNOUNCE) >= 0;
 }
 
-int Sequencer::Make_Port(const char* name, unsigned capabilities) {
+int Client::Make_Port(const char* name, unsigned capabilities) {
   return snd_seq_create_simple_port(sequencer_, name, capabilities,
                                     SND_SEQ_PORT_TYPE_MIDI_GENERIC | SND_SEQ_PORT_TYPE_APPLICATION);
 }
 
-std::vector<Midi::Port> Sequencer::Ports(Midi::Direction direction) const {
+std::vector<Midi::Port> Client::Ports(Midi::Direction direction) const {
   std::vector<Midi::Port> ports;
   for (Listed_Port& row : List_Ports(sequencer_, direction)) ports.push_back(std::move(row.port));
   std::stable_partition(ports.begin(), ports.end(), [](const Midi::Port& port) { return port.wire; });
@@ -129,7 +147,7 @@ std::vector<Midi::Port> Sequencer::Ports(Midi::Direction direction) const {
 }
 
 // An address that has gone may have been given to another port since, so the name has to be the same too.
-bool Sequencer::Is_There(const Midi::Port& port, Midi::Direction direction, snd_seq_addr_t& address) const {
+bool Client::Is_There(const Midi::Port& port, Midi::Direction direction, snd_seq_addr_t& address) const {
   for (const Listed_Port& row : List_Ports(sequencer_, direction)) {
     if (row.port.address != port.address || row.port.name != port.name) continue;
     address = row.address;
@@ -138,7 +156,7 @@ bool Sequencer::Is_There(const Midi::Port& port, Midi::Direction direction, snd_
   return false;
 }
 
-bool Sequencer::Open_Output(const Midi::Port& port, Destination& destination) {
+bool Client::Open_Output(const Midi::Port& port, Destination& destination) {
   if (!Is_There(port, Midi::Direction::Output, destination.address)) return false;
   destination.wire = port.wire;
   destination.own_port = Make_Port("out", Readable);
@@ -154,7 +172,7 @@ bool Sequencer::Open_Output(const Midi::Port& port, Destination& destination) {
   return false;
 }
 
-bool Sequencer::Open_Input(const Midi::Port& port, Origin& origin) {
+bool Client::Open_Input(const Midi::Port& port, Origin& origin) {
   snd_seq_addr_t from{};
   if (!Is_There(port, Midi::Direction::Input, from)) return false;
   origin.own_port = Make_Port("in", Writable);
@@ -168,7 +186,7 @@ bool Sequencer::Open_Input(const Midi::Port& port, Origin& origin) {
   return false;
 }
 
-void Sequencer::Close_Output(Destination& destination) {
+void Client::Close_Output(Destination& destination) {
   {
     const std::lock_guard lock(ports_);
     std::erase(destinations_, &destination);
@@ -176,7 +194,7 @@ void Sequencer::Close_Output(Destination& destination) {
   Delete_Later(destination.own_port);
 }
 
-void Sequencer::Close_Input(Origin& origin) {
+void Client::Close_Input(Origin& origin) {
   {
     const std::lock_guard lock(ports_);
     std::erase(origins_, &origin);
@@ -184,7 +202,7 @@ void Sequencer::Close_Input(Origin& origin) {
   Delete_Later(origin.own_port);
 }
 
-void Sequencer::Delete_Later(int own_port) {
+void Client::Delete_Later(int own_port) {
   const std::lock_guard lock(ports_);
   to_delete_.push_back(own_port);
   eventfd_write(wake_, 1);
@@ -192,7 +210,7 @@ void Sequencer::Delete_Later(int own_port) {
 
 // Other programs look at an event's type: a note that came as raw bytes they would not hear. False: the bytes
 // are no whole channel message.
-bool Sequencer::Encode(std::string_view bytes, snd_seq_event_t& event) {
+bool Client::Encode(std::string_view bytes, snd_seq_event_t& event) {
   const auto status = static_cast<unsigned char>(bytes[0]);
   if (status < First_Status || status >= First_System_Status) return false;
   snd_midi_event_reset_encode(encoder_);
@@ -201,7 +219,7 @@ bool Sequencer::Encode(std::string_view bytes, snd_seq_event_t& event) {
   return snd_midi_event_encode(encoder_, data, size, &event) == size && event.type != SND_SEQ_EVENT_NONE;
 }
 
-Midi::Write_Result Sequencer::Write(const Destination& destination, std::string_view bytes) {
+Midi::Write_Result Client::Write(const Destination& destination, std::string_view bytes) {
   if (!Has_Room(file_, destination.address.client, bytes.size())) return Midi::Write_Result::Busy;
   const std::lock_guard lock(output_);
   snd_seq_event_t event;
@@ -213,26 +231,29 @@ Midi::Write_Result Sequencer::Write(const Destination& destination, std::string_
   snd_seq_ev_set_source(&event, static_cast<unsigned char>(destination.own_port));
   snd_seq_ev_set_dest(&event, destination.address.client, destination.address.port);
   snd_seq_ev_set_direct(&event);
-  const int result = snd_seq_event_output_direct(sequencer_, &event);
-  if (result >= 0) return Midi::Write_Result::Taken;
-  const bool passing = result == -EAGAIN || result == -EINTR || result == -ENOMEM;
-  return passing ? Midi::Write_Result::Busy : Midi::Write_Result::Gone;
+  return Result_Of(snd_seq_event_output_direct(sequencer_, &event));
 }
 
-void Sequencer::Run() {
+void Client::Run() {
   std::vector<pollfd> waits(static_cast<std::size_t>(snd_seq_poll_descriptors_count(sequencer_, POLLIN)));
   snd_seq_poll_descriptors(sequencer_, waits.data(), static_cast<unsigned>(waits.size()), POLLIN);
   waits.push_back({wake_, POLLIN, 0});
+  // A file in this state wakes the poll at once, each time, and has nothing to read.
+  const auto broken = [](const pollfd& wait) { return (wait.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0; };
   while (!ended_) {
-    if (poll(waits.data(), waits.size(), -1) < 0 && errno != EINTR) return;
+    if (poll(waits.data(), waits.size(), -1) < 0) {
+      if (errno == EINTR) continue;
+      break;
+    }
     eventfd_t count = 0;
     eventfd_read(wake_, &count);
     Delete_Ports();
-    Read_Events();
+    if (std::any_of(waits.begin(), waits.end(), broken) || !Read_Events()) break;
   }
+  if (!ended_) Lose_All();
 }
 
-void Sequencer::Delete_Ports() {
+void Client::Delete_Ports() {
   std::vector<int> ports;
   {
     const std::lock_guard lock(ports_);
@@ -241,21 +262,21 @@ void Sequencer::Delete_Ports() {
   for (const int port : ports) snd_seq_delete_simple_port(sequencer_, port);
 }
 
-void Sequencer::Read_Events() {
+bool Client::Read_Events() {
   for (;;) {
     snd_seq_event_t* event = nullptr;
     const int result = snd_seq_event_input(sequencer_, &event);
     if (result == -ENOSPC) {
       Break_All();
     } else if (result < 0) {
-      return;
+      return result == -EAGAIN || result == -EINTR;
     } else if (event != nullptr) {
       Take(*event);
     }
   }
 }
 
-void Sequencer::Take(const snd_seq_event_t& event) {
+void Client::Take(const snd_seq_event_t& event) {
   if (event.dest.port == announcements_) return Lose(event);
   if (event.type == SND_SEQ_EVENT_SYSEX) {
     return Receive(event.dest.port, {static_cast<const char*>(event.data.ext.ptr), event.data.ext.len});
@@ -267,7 +288,7 @@ void Sequencer::Take(const snd_seq_event_t& event) {
 }
 
 // An announcement: marks the destinations that have gone.
-void Sequencer::Lose(const snd_seq_event_t& event) {
+void Client::Lose(const snd_seq_event_t& event) {
   const snd_seq_addr_t gone = event.data.addr;
   const std::lock_guard lock(ports_);
   for (Destination* destination : destinations_) {
@@ -278,14 +299,20 @@ void Sequencer::Lose(const snd_seq_event_t& event) {
   }
 }
 
-void Sequencer::Receive(int own_port, std::string_view bytes) {
+void Client::Lose_All() {
+  const std::lock_guard lock(ports_);
+  lost_ = true;
+  for (Destination* destination : destinations_) destination->gone = true;
+}
+
+void Client::Receive(int own_port, std::string_view bytes) {
   const std::lock_guard lock(ports_);
   for (const Origin* origin : origins_) {
     if (origin->own_port == own_port) origin->receiver(bytes);
   }
 }
 
-void Sequencer::Break_All() {
+void Client::Break_All() {
   const std::lock_guard lock(ports_);
   for (const Origin* origin : origins_) origin->receiver(Midi::Break);
 }

@@ -29,12 +29,16 @@ struct Origin {
   Midi::Byte_Receiver receiver;
 };
 
-struct Sequencer {
+struct Client {
   // nullptr: this machine has no sequencer. Throws std::system_error where there is no thread for it.
-  static std::unique_ptr<Sequencer> Open();
-  ~Sequencer();
-  Sequencer(const Sequencer&) = delete;
-  Sequencer& operator=(const Sequencer&) = delete;
+  static std::unique_ptr<Client> Open();
+  ~Client();
+  Client(const Client&) = delete;
+  Client& operator=(const Client&) = delete;
+
+  // The sequencer itself failed: nothing goes or comes any more, and only another client may help. Any
+  // thread.
+  bool Lost() const { return lost_; }
 
   // User-interface thread. Hardware first: it is what most people want.
   std::vector<Midi::Port> Ports(Midi::Direction direction) const;
@@ -50,7 +54,7 @@ struct Sequencer {
   Midi::Write_Result Write(const Destination& destination, std::string_view bytes);
 
  private:
-  explicit Sequencer(snd_seq_t* sequencer);
+  explicit Client(snd_seq_t* sequencer);
   bool Listen_To_Announcements();
   int Make_Port(const char* name, unsigned capabilities);
   bool Encode(std::string_view bytes, snd_seq_event_t& event);
@@ -58,9 +62,10 @@ struct Sequencer {
   void Delete_Later(int own_port);
   void Run();
   void Delete_Ports();
-  void Read_Events();
+  bool Read_Events();  // those that have come; false: no more will
   void Take(const snd_seq_event_t& event);
   void Lose(const snd_seq_event_t& event);
+  void Lose_All();
   void Receive(int own_port, std::string_view bytes);
   void Break_All();
 
@@ -70,6 +75,7 @@ struct Sequencer {
   int wake_ = -1;  // an event counter: something to delete, or the end
   int announcements_ = -1;
   std::atomic<bool> ended_ = false;
+  std::atomic<bool> lost_ = false;
   std::mutex output_;  // guards what follows, and the library's output
   snd_midi_event_t* encoder_ = nullptr;
   std::mutex ports_;  // guards what follows

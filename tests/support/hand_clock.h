@@ -1,0 +1,14 @@
+// A clock that stands still but for who sleeps by it, a test for instance. Safe for threads.
+#pragma once
+
+#include <atomic>
+
+#include "adapters/midi/clock.h"
+
+struct Hand_Clock final : Midi::Clock {
+  std::int64_t Now_us() override { return now_us_; }
+  void Sleep_us(std::int64_t duration_us) override { now_us_ += duration_us; }
+
+ private:
+  std::atomic<std::int64_t> now_us_ = 0;
+};
