@@ -19,6 +19,31 @@ As_Root() {
   if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
+Install=yes
+
+# Take_Options WORD...: the options of ./run and ./test.
+Take_Options() {
+  local option
+  for option in "$@"; do
+    case $option in
+      --no-install) Install=no ;;
+      *)
+        echo "Usage: $0 [--no-install]    with it, nothing is installed, whatever is missing"
+        return 1
+        ;;
+    esac
+  done
+}
+
+# May_Install NAME...: whether they may be installed. Somebody at a terminal is asked; root and CI are not.
+May_Install() {
+  local answer
+  [ "$(id -u)" -ne 0 ] && [ -z "${CI:-}" ] && [ -t 0 ] && [ -t 1 ] || return 0
+  echo "MELVOR needs these packages: $*"
+  read -rp "Install them with sudo apt-get? [Y/n] " answer
+  case $answer in [Nn]*) return 1 ;; esac
+}
+
 # Missing_Packages NAME...: those that are not installed, one a line.
 Missing_Packages() {
   local installed name
@@ -28,7 +53,7 @@ Missing_Packages() {
   done
 }
 
-# Need_Packages NAME...: installs what is missing. Fails if that cannot be had.
+# Need_Packages NAME...: installs what is missing, if it may. Fails if that cannot be had.
 Need_Packages() {
   local missing
   if ! command -v dpkg-query >/dev/null; then
@@ -37,6 +62,10 @@ Need_Packages() {
   fi
   mapfile -t missing < <(Missing_Packages "$@")
   [ "${#missing[@]}" -gt 0 ] || return 0
+  if [ "$Install" = no ] || ! May_Install "${missing[@]}"; then
+    echo "Going on without ${missing[*]}"
+    return 0
+  fi
   echo "Installing ${missing[*]}"
   Logged install-lists As_Root apt-get -q -o DPkg::Lock::Timeout=300 update || return 1
   Logged install As_Root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 \
