@@ -65,7 +65,9 @@ struct MIDI_Header {
 // bytes_recorded its length.
 using Midi_Receiver = std::function<void(MIDI_Header& header)>;
 
-// The port itself. Handles are above 0.
+// The port itself. Handles are above 0. Every call answers Midi_Ok or another code; where it says nothing
+// else, a failed call has done nothing and leaves what it was given as it was. Midi_Invalid_Handle is the
+// answer to a handle that is not open.
 struct Midi_Service {
   virtual ~Midi_Service() = default;
 
@@ -73,29 +75,44 @@ struct Midi_Service {
   virtual void Refresh() = 0;
 
   virtual int Out_Count() = 0;
-  virtual int Out_Caps(int device, MIDI_Out_Caps& caps) = 0;
-  virtual int Out_Open(std::int32_t& handle, int device) = 0;
-  // Low byte status, then data 1 and data 2. Bytes beyond the status's own length are not sent.
+  // 2: no such device.
+  [[nodiscard]] virtual int Out_Caps(int device, MIDI_Out_Caps& caps) = 0;
+  // 2: no such device; 4: it is in use, here or by another program; 68: it is no longer there; 7: no memory,
+  // or no thread.
+  [[nodiscard]] virtual int Out_Open(std::int32_t& handle, int device) = 0;
+  // Low byte status, then data 1 and data 2. Bytes beyond the status's own length are not sent; without a
+  // status byte nothing is, which is no error. 67: too much waits already; 68: the device is no longer there;
+  // 1: the system failed to take an earlier message, which it is now asked to take again. A failed call sends
+  // nothing.
   virtual int Out_Short(std::int32_t handle, std::uint32_t message) = 0;
-  virtual int Out_Prepare(std::int32_t handle, MIDI_Header& header) = 0;
+  // 11: the header's data is shorter than its buffer_length.
+  [[nodiscard]] virtual int Out_Prepare(std::int32_t handle, MIDI_Header& header) = 0;
+  // Sets Header_Done; the header is free again at once. 64: not prepared; 11: as Out_Prepare, or longer than
+  // any message may be; 1, 67, 68: as Out_Short.
   virtual int Out_Long(std::int32_t handle, MIDI_Header& header) = 0;
   virtual int Out_Unprepare(std::int32_t handle, MIDI_Header& header) = 0;
-  virtual int Out_Close(std::int32_t handle) = 0;
+  // 65: messages are still under way, and the device stays open; ask again. It gives up on those that do not
+  // move for a second.
+  [[nodiscard]] virtual int Out_Close(std::int32_t handle) = 0;
 
   virtual int In_Count() = 0;
-  virtual int In_Caps(int device, MIDI_In_Caps& caps) = 0;
-  // The receiver runs on the user-interface thread, never inside a call of the service, and never after
-  // In_Close.
-  virtual int In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) = 0;
+  // As Out_Caps.
+  [[nodiscard]] virtual int In_Caps(int device, MIDI_In_Caps& caps) = 0;
+  // As Out_Open. The receiver runs on the user-interface thread, never inside a call of the service, and
+  // never after In_Close; after a failed call it never runs.
+  [[nodiscard]] virtual int In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) = 0;
   // Prepares a buffer of buffer_length bytes, and hands it to the input to be filled; it stays there, at its
   // address, until the receiver gets it, or the input is reset or closed. A message that finds no buffer, or
-  // none that is long enough, is dropped.
-  virtual int In_Prepare(std::int32_t handle, MIDI_Header& header) = 0;
-  virtual int In_Add_Buffer(std::int32_t handle, MIDI_Header& header) = 0;
-  virtual int In_Unprepare(std::int32_t handle, MIDI_Header& header) = 0;
-  virtual int In_Start(std::int32_t handle) = 0;
-  virtual int In_Reset(std::int32_t handle) = 0;
-  virtual int In_Close(std::int32_t handle) = 0;
+  // none that is long enough, is dropped. 64: not prepared; 65: the input has it already.
+  [[nodiscard]] virtual int In_Prepare(std::int32_t handle, MIDI_Header& header) = 0;
+  [[nodiscard]] virtual int In_Add_Buffer(std::int32_t handle, MIDI_Header& header) = 0;
+  // 65: the input still has the buffer.
+  [[nodiscard]] virtual int In_Unprepare(std::int32_t handle, MIDI_Header& header) = 0;
+  [[nodiscard]] virtual int In_Start(std::int32_t handle) = 0;
+  // Stops the input and takes its buffers back, each with Header_Done and no bytes.
+  [[nodiscard]] virtual int In_Reset(std::int32_t handle) = 0;
+  // Resets the input and ends it.
+  [[nodiscard]] virtual int In_Close(std::int32_t handle) = 0;
 
   // Text of a code; empty for a code it does not know.
   virtual std::string Error_Text(int code) = 0;
@@ -104,24 +121,24 @@ struct Midi_Service {
 void Install_Midi_Service(
     Midi_Service* service);  // nullptr takes it away: every call answers 6, every count is 0
 
-// The operations under their published names.
+// The operations under their published names; the codes are the service's.
 void midiRefreshDevices();
 int midiOutGetNumDevs();
-int midiOutGetDevCaps(int device, MIDI_Out_Caps& caps);
-int midiOutOpen(std::int32_t& handle, int device);
+[[nodiscard]] int midiOutGetDevCaps(int device, MIDI_Out_Caps& caps);
+[[nodiscard]] int midiOutOpen(std::int32_t& handle, int device);
 int midiOutShortMsg(std::int32_t handle, std::uint32_t message);
-int midiOutPrepareHeader(std::int32_t handle, MIDI_Header& header);
+[[nodiscard]] int midiOutPrepareHeader(std::int32_t handle, MIDI_Header& header);
 int midiOutLongMsg(std::int32_t handle, MIDI_Header& header);
 int midiOutUnprepareHeader(std::int32_t handle, MIDI_Header& header);
-int midiOutClose(std::int32_t handle);
+[[nodiscard]] int midiOutClose(std::int32_t handle);
 std::string midiOutGetErrorText(int code);
 int midiInGetNumDevs();
-int midiInGetDevCaps(int device, MIDI_In_Caps& caps);
-int midiInOpen(std::int32_t& handle, int device, Midi_Receiver receiver);
-int midiInPrepareHeader(std::int32_t handle, MIDI_Header& header);
-int midiInAddBuffer(std::int32_t handle, MIDI_Header& header);
-int midiInUnprepareHeader(std::int32_t handle, MIDI_Header& header);
-int midiInStart(std::int32_t handle);
-int midiInReset(std::int32_t handle);
-int midiInClose(std::int32_t handle);
+[[nodiscard]] int midiInGetDevCaps(int device, MIDI_In_Caps& caps);
+[[nodiscard]] int midiInOpen(std::int32_t& handle, int device, Midi_Receiver receiver);
+[[nodiscard]] int midiInPrepareHeader(std::int32_t handle, MIDI_Header& header);
+[[nodiscard]] int midiInAddBuffer(std::int32_t handle, MIDI_Header& header);
+[[nodiscard]] int midiInUnprepareHeader(std::int32_t handle, MIDI_Header& header);
+[[nodiscard]] int midiInStart(std::int32_t handle);
+[[nodiscard]] int midiInReset(std::int32_t handle);
+[[nodiscard]] int midiInClose(std::int32_t handle);
 std::string midiInGetErrorText(int code);

@@ -31,7 +31,7 @@ struct Origin {
 
 struct Client {
   // nullptr: this machine has no sequencer. Throws std::system_error where there is no thread for it.
-  static std::unique_ptr<Client> Open();
+  [[nodiscard]] static std::unique_ptr<Client> Open();
   ~Client();
   Client(const Client&) = delete;
   Client& operator=(const Client&) = delete;
@@ -43,26 +43,26 @@ struct Client {
   // User-interface thread. Hardware first: it is what most people want.
   std::vector<Midi::Port> Ports(Midi::Direction direction) const;
   // False: the port is no longer there, or refuses.
-  bool Open_Output(const Midi::Port& port, Destination& destination);
-  bool Open_Input(const Midi::Port& port, Origin& origin);
+  [[nodiscard]] bool Open_Output(const Midi::Port& port, Destination& destination);
+  [[nodiscard]] bool Open_Input(const Midi::Port& port, Origin& origin);
   // The port itself goes in the background: the kernel first waits for the wire. Nothing of it is used any
   // more.
   void Close_Output(Destination& destination);
   void Close_Input(Origin& origin);
 
   // Sends the bytes, as they are, in one event. Sender threads.
-  Midi::Write_Result Write(const Destination& destination, std::string_view bytes);
+  [[nodiscard]] Midi::Write_Result Write(const Destination& destination, std::string_view bytes);
 
  private:
   explicit Client(snd_seq_t* sequencer);
-  bool Listen_To_Announcements();
+  [[nodiscard]] bool Listen_To_Announcements();
   int Make_Port(const char* name, unsigned capabilities);
-  bool Encode(std::string_view bytes, snd_seq_event_t& event);
+  [[nodiscard]] bool Encode(std::string_view bytes, snd_seq_event_t& event);
   bool Is_There(const Midi::Port& port, Midi::Direction direction, snd_seq_addr_t& address) const;
   void Delete_Later(int own_port);
   void Run();
   void Delete_Ports();
-  bool Read_Events();  // those that have come; false: no more will
+  [[nodiscard]] bool Read_Events();  // those that have come; false: no more will
   void Take(const snd_seq_event_t& event);
   void Lose(const snd_seq_event_t& event);
   void Lose_All();

@@ -47,9 +47,9 @@ struct Client : std::enable_shared_from_this<Client> {
   // Below: user-interface thread. None of them waits for the server.
   std::vector<Midi::Port> Ports(Midi::Direction direction) const;
   // nullptr: the port is no longer there, or no slot is free.
-  Output_Slot* Open_Output(const std::string& destination);
+  [[nodiscard]] Output_Slot* Open_Output(const std::string& destination);
   void Close_Output(Output_Slot& slot);
-  Input_Slot* Open_Input(const std::string& origin, Midi::Byte_Receiver receiver);
+  [[nodiscard]] Input_Slot* Open_Input(const std::string& origin, Midi::Byte_Receiver receiver);
   void Close_Input(Input_Slot& slot);  // its receiver is not called any more
 
  private:
@@ -57,7 +57,7 @@ struct Client : std::enable_shared_from_this<Client> {
   static constexpr std::size_t Input_Ring_Size = 65536;
 
   Client(jack_client_t* client, const std::weak_ptr<Worker::Queue>& worker, Midi::Clock& clock);
-  bool Activate();
+  [[nodiscard]] bool Activate();
   bool Has_Port(const std::string& name) const;
   template <class Slot>
   void Post_Opening(Slot& slot, const char* name, unsigned long flags);
@@ -65,8 +65,8 @@ struct Client : std::enable_shared_from_this<Client> {
   void Post_Closing(Slot& slot);
   template <class Slot>
   void Close_Drained(Slot& slot);
-  int Link(const Output_Slot& slot) const;
-  int Link(const Input_Slot& slot) const;
+  [[nodiscard]] int Link(const Output_Slot& slot) const;
+  [[nodiscard]] int Link(const Input_Slot& slot) const;
   static void Lost(Output_Slot& slot) { slot.gone = true; }
   static void Lost(Input_Slot&) {}  // an input whose port is not there stays silent
   // Whether nothing of the slot is on its way any more, or can be.

@@ -32,7 +32,7 @@ struct Sink {
   virtual ~Sink() = default;
   // Passes the bytes on exactly as they are, as a whole or not at all. Does not wait. Sender thread only.
   // REQUIRES: bytes not empty, at most Largest_Write.
-  virtual Write_Result Write(std::string_view bytes) = 0;
+  [[nodiscard]] virtual Write_Result Write(std::string_view bytes) = 0;
   // How many of the bytes that were written so far the system has come for, where they wait for that inside.
   // Any thread.
   virtual std::size_t Passed_Bytes(std::size_t written) const { return written; }
@@ -65,8 +65,8 @@ struct Backend {
   // Those that are there now.
   virtual std::vector<Port> Ports(Direction direction) = 0;
   // nullptr: the port is no longer there, or, where Ports still has it, takes nobody more.
-  virtual std::unique_ptr<Sink> Open_Output(const Port& port) = 0;
-  virtual std::unique_ptr<Source> Open_Input(const Port& port, Byte_Receiver receiver) = 0;
+  [[nodiscard]] virtual std::unique_ptr<Sink> Open_Output(const Port& port) = 0;
+  [[nodiscard]] virtual std::unique_ptr<Source> Open_Input(const Port& port, Byte_Receiver receiver) = 0;
 };
 
 }  // namespace Midi

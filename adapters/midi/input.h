@@ -25,9 +25,9 @@ struct Input {
   Input& operator=(const Input&) = delete;
 
   // Opens the port. False if it is no longer there.
-  bool Open(Backend& backend, const Port& port);
+  [[nodiscard]] bool Open(Backend& backend, const Port& port);
 
-  int Add_Buffer(MIDI_Header& header);
+  [[nodiscard]] int Add_Buffer(MIDI_Header& header);
   bool Has_Buffer(const MIDI_Header& header) const;
   void Start();  // REQUIRES: Open succeeded
   void Reset();  // stops, and gives all buffers back empty

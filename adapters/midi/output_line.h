@@ -41,7 +41,7 @@ struct Output_Line {
 
   // Passes on what is due. Returns the time at which it wants to be called again, Never_us: not before the
   // next Take. One thread only.
-  std::int64_t Pump(std::int64_t now_us);
+  [[nodiscard]] std::int64_t Pump(std::int64_t now_us);
 
   // Taken and not yet passed on by the system, or still on the wire; 0 for a port that has gone.
   std::size_t Bytes_Under_Way(std::int64_t now_us);

@@ -22,11 +22,11 @@ struct Sender {
   Sender& operator=(const Sender&) = delete;
 
   // As Output_Line::Take, now.
-  int Send(Message_Kind kind, std::string_view message);
+  [[nodiscard]] int Send(Message_Kind kind, std::string_view message);
 
   // 0: everything has left, or nothing has moved for a second, and the sender may be destroyed. 65: messages
   // are still under way; ask again. Waits 10 ms at most.
-  int Close();
+  [[nodiscard]] int Close();
 
   Line_Counts Counts() { return line_.Counts(); }
 

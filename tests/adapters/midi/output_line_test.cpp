@@ -75,7 +75,7 @@ TEST_F(Line_Test, An_Error_Of_One_Write_Is_Reported_Once_And_The_Message_Tried_A
   for (int times = 0; times < 2; ++times) {
     EXPECT_EQ(Long("cd"), Midi_Error);
     EXPECT_EQ(Long("ef"), Midi_Ok);
-    line.Pump(now_us);
+    EXPECT_EQ(line.Pump(now_us), Midi::Never_us);
   }
   port.answer = Midi::Write_Result::Taken;
   EXPECT_EQ(Long("gh"), Midi_Error);

@@ -52,6 +52,7 @@ TEST_F(Service_Test, Devices_Run_Through_All_Backends_And_A_Refresh_Leaves_Open_
   EXPECT_EQ(service.Out_Short(handle, 0x403C90), Midi_Ok);
   EXPECT_EQ(service.Out_Open(other, 2), Midi_Allocated) << "the same port under another number";
   EXPECT_EQ(service.Out_Open(other, 3), Midi_Bad_Device);
+  EXPECT_EQ(other, -1);
   EXPECT_EQ(Close_Output(service, handle), Midi_Ok);
   EXPECT_EQ(second.ports["o"].Bytes(), "\x90\x3C\x40");
 }
@@ -63,6 +64,7 @@ TEST_F(Service_Test, A_Call_Out_Of_Order_Is_Answered_By_Its_Code) {
   ASSERT_EQ(service.Out_Open(handle, 0), Midi_Ok);
   EXPECT_EQ(service.Out_Long(handle, header), Midi_Unprepared);
   EXPECT_EQ(service.Out_Prepare(handle, header), Midi_Invalid_Parameter) << "longer than its data";
+  EXPECT_EQ(header.flags, 0U);
   ASSERT_EQ(service.Out_Close(handle), Midi_Ok);
   for (const std::int32_t wrong : {0, handle}) {
     for (const int code :

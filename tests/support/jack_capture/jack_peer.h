@@ -35,7 +35,8 @@ struct Jack_Peer {
   ~Jack_Peer() { Close(); }
 
   void Close() {
-    if (client_ != nullptr) jack_client_close(std::exchange(client_, nullptr));
+    if (client_ != nullptr) jack_client_close(client_);
+    client_ = nullptr;  // not before: the server's thread uses it until then
   }
   bool Sees(const char* port) const { return jack_port_by_name(client_, port) != nullptr; }
   // As long as the lock is held, this client does not end its period.
