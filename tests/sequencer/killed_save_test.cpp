@@ -11,9 +11,7 @@
 #include <csignal>
 #include <cstddef>
 
-#include "core/tone_files.h"
 #include "platform/files.h"
-#include "platform/profile_file.h"
 #include "sequencer/sequencer_fixture.h"
 
 namespace {
@@ -95,7 +93,6 @@ struct Killed_Save : Sequencer_Test {
     desktop.on_other_box = [this] { return desktop.Last_Box().ends_with("?") ? Answer::Yes : Answer::Ok; };
     Tone_File = Seq_File = INI_File = "C:\\FILE";  // what is there keeps its own spelling
   }
-  ~Killed_Save() override { INI_File.clear(); }
 
   Files On_Disk() const {
     Files files;
