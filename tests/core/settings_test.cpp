@@ -1,21 +1,10 @@
 #include "core/settings.h"
 #include "core/file_places.h"
 
-#include "core/recent.h"
-#include "platform/profile_file.h"
 #include "support/program.h"
-#include "support/temporary_root.h"
-
-namespace {
 
 struct Settings : Program {
   Settings() { INI_File = "C:\\MELVOR.INI"; }
-  ~Settings() override {
-    INI_File.clear();
-    Recent_Tones = {};
-    MELVOR.state = Window_State::Normal;
-  }
-  Temporary_Root root;
 };
 
 TEST_F(Settings, Without_A_File_And_From_Noise_The_Defaults_Stand) {
@@ -72,5 +61,3 @@ TEST_F(Settings, A_Failed_Write_Is_Told_But_Not_In_A_Box) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(),
             "MELVOR: the settings were not written to C:\\MELVOR.INI: Path/File access error\n");
 }
-
-}  // namespace

@@ -4,8 +4,6 @@
 
 #include "support/program.h"
 
-namespace {
-
 using SysEx = Program;
 
 TEST_F(SysEx, Hex_Text_Is_Read_Pair_By_Pair) {
@@ -49,5 +47,3 @@ TEST_F(SysEx, The_Dump_Has_24_07_Where_An_F7_Would_Stand_And_The_Name_Ends_In_0F
              "57 58 59 5A 24 07 F0 41 36 00 21 30 01 00 70 01 71 02 72 03 73 04 74 05 75 06 76 F7",
              "F0 41 36 00 21 20 01 00 20 01 21 02 22 03 23 04 24 05 25 06 26 07 27 08 28 09 29 0F"}));
 }
-
-}  // namespace

@@ -4,15 +4,8 @@
 
 #include <numeric>
 
-#include "core/recent.h"
 #include "core/save_as.h"
-#include "core/settings.h"
-#include "core/tone_commands.h"
-#include "core/undo.h"
 #include "support/program.h"
-#include "support/temporary_root.h"
-#include "windows/file_dlg_window.h"
-#include "windows/modal.h"
 
 namespace {
 
@@ -28,8 +21,6 @@ const std::string Patch_Message =
 struct Tone_Files : Program {
   Tone_Files() {
     Autosend = 0;
-    Recent_Tones = {};
-    Patch_Open = Flag_Off;
     Dir_Tones = "C:\\";
     Show(MELVOR);
     File_Dlg.on_load = [] { Dlg_Enter(File_Dlg, "File_Dlg"); };
@@ -38,7 +29,6 @@ struct Tone_Files : Program {
   ~Tone_Files() override {
     File_Dlg.on_load = nullptr;
     File_Dlg.on_unload = nullptr;
-    Unload(MELVOR);
   }
 
   void Load(const std::string& bytes, Load_Mode mode = Load_Mode::Open) {
@@ -52,8 +42,6 @@ struct Tone_Files : Program {
       Unload(File_Dlg);
     });
   }
-
-  Temporary_Root root;
 };
 
 TEST_F(Tone_Files, A_Saved_File_Is_89_Bytes_For_Any_Instrument_And_Comes_Back_The_Same) {
@@ -82,28 +70,23 @@ TEST_F(Tone_Files, A_Saved_File_Is_89_Bytes_For_Any_Instrument_And_Comes_Back_Th
   EXPECT_EQ(Tone_File + Recent_Tones[0] + MELVOR.caption(), "C:\\b.syxC:\\b.syxMELVOR - C:\\B.SYX");
 }
 
-TEST_F(Tone_Files, What_A_File_Holds_Decides_What_Is_Taken) {
-  using Row = std::pair<std::string, const char*>;
-  for (const auto& [before, box] :
-       {Row{Bytes_Of("F0 43 00 09 20 00 F7"), "Wrong MIDI system exclusive data!"},
-        Row{std::string(40000, 'x'), "Error 6: Overflow"}}) {
-    desktop.Expect_Box(Answer::Ok, box);
-    Load(before + Tone_Message(40));
-    EXPECT_EQ(Tone[0], ' ');
+TEST_F(Tone_Files, What_A_File_Holds_Decides_What_Is_Taken_And_Asked) {
+  const std::string tone = Tone_Message(40), both = tone + Tone_Message(41);
+  using Row = std::tuple<std::string, Load_Mode, std::string, int>;
+  for (const auto& [file, mode, box, first] :
+       {Row{Bytes_Of("F0 43 00 09 20 00 F7") + tone, Load_Mode::Open, "Wrong MIDI system exclusive data!",
+            ' '},
+        {std::string(40000, 'x') + tone, Load_Mode::Open, "Error 6: Overflow", ' '},
+        {"noise" + tone, Load_Mode::Open, "", 40},
+        {both, Load_Mode::Open, "File contains another TONE. Save old TONE first?", 41},
+        {both, Load_Mode::Soundcheck, "File contains another TONE. Load it?", 40}}) {
+    Tone_Clear();
+    if (!box.empty()) desktop.Expect_Box(Answer::No, box);
+    Load(file, mode);
+    EXPECT_EQ(Tone[0], first) << box;
   }
-  Load("noise" + Tone_Message(40));
-  EXPECT_EQ(Tone[0], 40);
   desktop.Expect_Box(Answer::Ok, "File not found: C:\\gone.syx");
   Tone_Load("C:\\gone.syx", Load_Mode::Open);
-}
-
-TEST_F(Tone_Files, A_Further_Tone_Is_Asked_About_In_The_Words_Of_The_Mode) {
-  desktop.Expect_Box(Answer::No, "File contains another TONE. Save old TONE first?");
-  Load(Tone_Message(40) + Tone_Message(41));
-  EXPECT_EQ(Tone[0], 41);
-  desktop.Expect_Box(Answer::No, "File contains another TONE. Load it?");
-  Load(Tone_Message(40) + Tone_Message(41), Load_Mode::Soundcheck);
-  EXPECT_EQ(Tone[0], 40);
 }
 
 TEST_F(Tone_Files, A_Save_Asks_Before_It_Writes_Over_What_Is_Not_Its_Own) {
@@ -136,21 +119,6 @@ TEST_F(Tone_Files, A_Save_Asks_Before_It_Writes_Over_What_Is_Not_Its_Own) {
   }
 }
 
-TEST_F(Tone_Files, A_Load_That_Breaks_Off_Counts_As_A_Change_And_Lets_The_Display_Work) {
-  for (const auto& [file, box, saved, first] :
-       {std::tuple{Tone_Message(40) + Patch_Message.substr(0, 10), "Error 62: Input past end of file",
-                   Flag_False, 40},
-        {Tone_Message(40).substr(0, 60), "Error 62: Input past end of file", Flag_True, 32},
-        {std::string("no tone"), "Wrong MIDI system exclusive data!", Flag_True, 32}}) {
-    Tone_Clear();
-    desktop.Expect_Box(Answer::Ok, box);
-    Load(file);
-    EXPECT_EQ(Tone[0], first);
-    EXPECT_EQ(Tone_Saved, saved);
-    EXPECT_EQ(Tone_Loading, Flag_Off);
-  }
-}
-
 TEST_F(Tone_Files, A_Save_That_Fails_Is_Told_And_Stays_Unsaved) {
   Tone_Saved = Flag_False;
   for (const auto& [path, box] :
@@ -179,18 +147,6 @@ TEST_F(Tone_Files, Save_As_Asks_About_A_File_That_The_Dialog_Has_Not_Written) {
   EXPECT_EQ(MELVOR.caption(), "MELVOR - OLD.SYX");
 }
 
-TEST_F(Tone_Files, A_Command_That_Asks_Goes_On_Behind_A_Save_Only) {
-  Tone_Saved = Flag_False;
-  desktop.Expect_Box(Answer::Yes, "Save actual TONE first?");
-  Choose_At_Wait("");
-  desktop.Expect_Box(Answer::Cancel, "File exists:  Overwrite?");
-  EXPECT_FALSE(Tone_May_Go(Box_Yes_No_Cancel));
-  desktop.Expect_Box(Answer::Yes, "Save actual TONE first?");
-  Choose_At_Wait("C:\\new.syx");
-  EXPECT_TRUE(Tone_May_Go(Box_Yes_No_Cancel));
-  EXPECT_TRUE(Tone_May_Go(Box_Yes_No_Cancel)) << "and asks no more";
-}
-
 TEST_F(Tone_Files, A_Dialog_That_Does_Not_Open_Is_Told) {
   desktop.Expect_Box(Answer::Ok, "SaveAs Error 68 : Device unavailable");
   desktop.Expect_Box(Answer::Ok, "Wrong filename!");
@@ -201,32 +157,6 @@ TEST_F(Tone_Files, A_Dialog_That_Does_Not_Open_Is_Told) {
     Tone_SaveAs();
     File_Dlg.on_unload = nullptr;
     Unload(File_Dlg);
-  }
-}
-
-// What the confirm of the dialog does: it saves, and the undo copy comes into the editor.
-TEST_F(Tone_Files, Undo_Brings_Back_What_Save_As_Saved_With_Its_File) {
-  Load(Tone_Message(40) + Patch_Message);
-  Tone_Param_Set(34, 99);
-  Tone_Undo.bytes.fill(7);
-  for (const Answer answer : {Answer::Yes, Answer::Cancel}) {
-    desktop.At_Wait([] {
-      Tone_File = "c:\\new.syx";
-      EXPECT_TRUE(Tone_Save());
-      Save_As_Written();
-      Unload(File_Dlg);
-    });
-    desktop.Expect_Box(answer, "File exists: c:\\new.syx Overwrite?");
-    Tone_SaveAs();
-    EXPECT_EQ(Tone[34], 7) << "the undo copy";
-    EXPECT_EQ(root.Get("new.syx")[7 + 34], 99) << "and not the undo copy";
-    Tone_Clear();
-    Undo_Restore();
-    Title_Mark();
-    EXPECT_EQ(Tone[34], 99);
-    EXPECT_EQ(Tone_File + MELVOR.caption(), "c:\\new.syxMELVOR - NEW.SYX");
-    EXPECT_TRUE(MELVOR.Menu_File_SYX_Save.enabled() && !MELVOR.modified() && Tone_Saved == Flag_True);
-    Tone_Undo.bytes.fill(7);
   }
 }
 

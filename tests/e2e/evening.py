@@ -1,5 +1,5 @@
 """A musician's evening, nearly all by keys: a first start, a sound made, named, varied, undone and saved, the windows
-tried, help looked up; and all of it back the next day."""
+tried, help looked up; and all of it back the next day, when the files are heard by a click and one is opened."""
 
 from harness.machine import wait_until
 from harness.program import Session
@@ -193,8 +193,23 @@ def next_day(session, evening):
     session.start()
     session.wire.skip()
     session.screen.menu("File", "Tone", f"2 {kept['Recent Files']['Tone2'].upper()}")
-    session.wire.expect(dump(evening.record), dump(evening.record, evening.patch))
-    assert session.interrupt() == 0
+    second = dump(evening.record, evening.patch)
+    session.wire.expect(dump(evening.record), second)
+    listen(session, dump({**dict(enumerate(evening.record)), 34: 111}.values(), evening.patch), second)
+    session.screen.menu("File", "Tone", "Open...")
+    session.screen.wait_for("Files")
+    assert session.interrupt() == 0  # which finds the dialog open
+    assert session.settings()["Recent Files"]["Tone1"].upper() == "C:\\SECOND.SYX"
+
+
+def listen(session, first, second):
+    """The notes before end, and the tone goes out behind each of the file's two messages."""
+    session.screen.menu("File", "Tone", "Open...")
+    session.screen.click_row("Files", "first.syx")
+    session.wire.expect(All_notes_off, first, first, note(24, 80))
+    session.screen.click_row("Files", "second.syx", times=2)
+    session.wire.expect(All_notes_off, second, second, second, second, All_notes_off)
+    session.screen.wait_for_end_of("Files")
 
 
 def main():

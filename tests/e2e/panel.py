@@ -1,17 +1,16 @@
-"""Slider, knob, switch, little keyboard, lights and display of the panel, moved by a real mouse and real keys, byte for
-byte on the wire and as the screen shows them; at two pixels a point. An order to end answers the question about the changed tone."""
+"""Sliders, lights and display of the panel, moved by a real mouse and real keys, byte for byte on the wire and as
+the screen shows them; at two pixels a point. An order to end answers the question about the changed tone."""
 
-from harness.laws import check_drag, check_slider, slider_height, values_of
+from harness.laws import check_slider, slider_height, values_of
 from harness.machine import wait_until
 from harness.program import Session
-from harness.wire import All_notes_off, empty_record, note, tone, tone_file
+from harness.wire import All_notes_off, empty_record, tone, tone_file
 
 Cutoff = "VCF cutoff frequency"
 Envelopes = [f"Envelope {number} {stage}" for number in (1, 2)
              for stage in ("attack time", "decay time", "sustain level", "release time")]
 Key_modes = ["poly 1", "unison 1", "solo 1", "poly 2", "unison 2", "solo 2"]
 Lit_tone = "C:\\LIGHTS.SYX"
-Lowest_of_semitones = [56, *range(72, 96, 4), 96, *range(104, 124, 4)]  # the knob's bytes from 0 to 12
 
 
 def to_fence(session, index):
@@ -56,31 +55,6 @@ def display(session):
     wait_until(value_shown, "the value in the display")
     wait_until(lambda: screen.text("Tone name") == "", "the name in the display")
     to_fence(session, 34)
-
-
-def knob(session):
-    """Four pixels to the right are a semitone; the first move jumps by the pointer's distance from the left edge."""
-    path = list(range(4, 41, 3)) + list(range(40, 19, -2))
-    session.screen.drag("DCO 1 tune", (2, 22), [(x, 22) for x in path])
-    steps = [Lowest_of_semitones.index(value) for value in to_fence(session, 13)]
-    assert steps[0] == 0 and steps[-1] == 5, steps
-    check_drag(steps, lambda _, place: place, [0] + [round(x / 4) for x in path])
-    assert session.screen.value("DCO 1 tune") == "plus 5 semitones"
-
-
-def switch(session):
-    for value in (64, 0):
-        session.screen.click("VCA mode")
-        session.wire.expect(tone(58, value))
-    session.screen.key("Up", "Left", "Home")
-    session.wire.expect(tone(58, 64), tone(58, 64), tone(58, 0))
-
-
-def chord(session):
-    session.screen.click("Play a chord")
-    session.wire.expect(*(note(number, 90) for number in (60, 64, 67, 72)))
-    session.screen.click("Play a chord", button=3)
-    session.wire.expect(All_notes_off)
 
 
 def marks(session):
@@ -128,10 +102,7 @@ def main():
         marks(session)
         slider(session)
         display(session)
-        knob(session)
         lights(session)
-        switch(session)
-        chord(session)
         session.screen.menu("File", "Exit")
         assert session.screen.box() == "Save actual TONE first?"
         session.end_at_once()

@@ -94,8 +94,6 @@ def main():
         wait_until(lambda: screen.is_checked("After touch volume"), "the light")
         screen.act("Key E", "Press")
         wire.expect(note(52, 127))
-        screen.act("Sequencer > Stop sequencer", "Press")
-        wire.expect(All_notes_off)
         screen.act("Note matrix > E, step 3", "Soft")
         wait_until(lambda: screen.value("Note matrix") == "step 3: E soft", "the note")
         assert screen.is_checked("Note matrix > E, step 3")

@@ -3,7 +3,7 @@ has gone. An order to end finds the program waiting for a tone."""
 
 from harness.machine import end, wait_until
 from harness.program import Session
-from harness.wire import All_notes_off, dump, empty_record, note, tone, tone_dump
+from harness.wire import dump, empty_record, note, tone, tone_dump
 
 Cutoff = "VCF cutoff frequency"
 
@@ -38,19 +38,6 @@ def receive(screen, wire):
     wire.expect(tone(34, 100))
 
 
-def give_up(screen, wire):
-    screen.menu("Tone", "Receive ")
-    assert screen.box() == "Save actual TONE first?"
-    screen.answer("No")
-    see_wait(screen)
-    screen.click("Stop sequencer")
-    wait_until(lambda: screen.is_enabled("File"), "the end of the wait")
-    wire.send(tone_dump(empty_record("TOO LATE")))
-    screen.click("Play a chord", button=3)
-    wire.expect(All_notes_off)
-    see_tone(screen, "SOLO LEAD")  # a value that the display still shows goes after a second
-
-
 def lose_the_server(session):
     """What is played into the void is told; the new server's devices are found by their names."""
     screen = session.screen
@@ -80,9 +67,10 @@ def main():
         screen = session.screen
         take_from(screen, "synth:out")
         receive(screen, session.wire)
-        give_up(screen, session.wire)
         lose_the_server(session)
         take_from(screen, "Built-in JX-8P")
+        assert screen.box() == "Save actual TONE first?"
+        screen.answer("No")
         see_tone(screen, "BUILT-IN")  # sent as soon as the program listens, since it has no buttons
         take_from(screen, "synth:out")
         see_wait(screen)

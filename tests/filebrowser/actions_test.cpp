@@ -1,7 +1,5 @@
 #include "filebrowser/filebrowser_fixture.h"
 
-namespace {
-
 struct Actions_Test : Filebrowser_Test {
   void Run(char act, const std::string& name) {
     if (act == 'D') return Double_Click_File(name);
@@ -138,5 +136,3 @@ TEST_F(Actions_Test, An_Existing_File_Is_Only_Overwritten_With_Consent) {
     Unload(File_Dlg);
   }
 }
-
-}  // namespace

@@ -4,9 +4,6 @@
 #include <algorithm>
 
 #include "core/file_places.h"
-#include "core/recent.h"
-#include "core/settings.h"
-#include "core/tone_files.h"
 #include "filebrowser/dialog.h"
 #include "filebrowser/state.h"
 #include "panel/editor.h"
@@ -15,11 +12,7 @@
 #include "sequencer/seq_clock.h"
 #include "sequencer/seq_files.h"
 #include "support/program.h"
-#include "support/temporary_root.h"
-#include "windows/editor_window.h"
-#include "windows/file_dlg_window.h"
 #include "windows/input_dlg_window.h"
-#include "windows/modal.h"
 
 // A tone file whose name is ten times the letter and whose other bytes are 1.
 inline std::string Tone_Bytes(char letter) {
@@ -45,11 +38,6 @@ struct Filebrowser_Test : Program {
     root.Put("songs/x.osc", "curve");
     Fresh_Memory();
     Show(Editor);
-  }
-  ~Filebrowser_Test() override {
-    Unload(File_Dlg);
-    MELVOR.Seq_Tmr.enabled = false;
-    Unload(Editor);
   }
 
   void Fresh_Memory() {
@@ -105,6 +93,4 @@ struct Filebrowser_Test : Program {
     }
     return heard;
   }
-
-  Temporary_Root root;
 };

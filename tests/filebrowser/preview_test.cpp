@@ -1,7 +1,4 @@
 #include "filebrowser/filebrowser_fixture.h"
-#include "windows/pictures.h"
-
-namespace {
 
 using Preview_Test = Filebrowser_Test;
 
@@ -76,5 +73,3 @@ TEST_F(Preview_Test, A_Clicked_Sequence_Is_Drawn_And_Plays_From_Its_Start) {
   EXPECT_FALSE(MELVOR.Seq_Tmr.enabled());
   EXPECT_EQ(File_Dlg.FD_SEQ_Button_Start.picture(), Button_Up3D);
 }
-
-}  // namespace

@@ -1,14 +1,10 @@
 #include "frame/midi_setup.h"
 
-#include "core/sysex.h"
 #include "frame/whole_program.h"
 #include "oscillator/targets.h"
-#include "platform/profile_file.h"
 #include "sequencer/seq_files.h"
 #include "sequencer/seq_transport.h"
 #include "windows/oscillator_window.h"
-
-namespace {
 
 struct Setup : Whole_Program {
   Setup() {
@@ -84,5 +80,3 @@ TEST_F(Setup, Escape_Writes_The_Lists_But_Leaves_The_Running_Program_Alone) {
   desktop.Key(Key::Escape);
   EXPECT_EQ(Chosen(), "1 3 One 3");
 }
-
-}  // namespace

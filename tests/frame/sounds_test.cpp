@@ -3,16 +3,10 @@
 #include <random>
 
 #include "core/save_as.h"
-#include "core/settings.h"
-#include "core/sysex.h"
-#include "core/tone_commands.h"
-#include "core/tone_files.h"
-#include "core/tone_params.h"
 #include "core/undo.h"
 #include "frame/whole_program.h"
 #include "platform/dispatch.h"
 #include "platform/text.h"
-#include "windows/file_dlg_window.h"
 
 namespace {
 

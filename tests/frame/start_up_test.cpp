@@ -1,24 +1,12 @@
 // The frame: how the program starts and closes.
-#include "core/sysex.h"
-#include "core/tone_commands.h"
 #include "frame/whole_program.h"
-#include "midi/output.h"
-#include "windows/file_dlg_window.h"
-#include "windows/pictures.h"
 #include "windows/sequencer_window.h"
-
-namespace {
 
 using Frame = Whole_Program;
 
-TEST_F(Frame, A_Configured_Start_Shows_The_Editor_And_Sends_Nothing) {
-  ASSERT_TRUE(Start());
-  EXPECT_EQ(Active_Form(), &Editor);
-  EXPECT_EQ(Tone[13], 56);
-  EXPECT_TRUE(Tone_Saved == Flag_True && Seq_Saved == Flag_On);
-  EXPECT_TRUE(service.sent.empty());
-  EXPECT_FALSE(service.Out_Is_Open());
-}
+struct Running : Whole_Program {
+  Running() { EXPECT_TRUE(Start()); }
+};
 
 TEST_F(Frame, Missing_Devices_Are_Told_One_By_One_And_Setup_Opens_Behind_The_Load) {
   desktop.Expect_Box(Answer::Ok, "MIDI output device not configured - starting MIDI setup.");
@@ -54,6 +42,8 @@ TEST_F(Frame, Preload_Takes_The_Newest_Sequence_And_Says_Nothing_Without_One) {
   ASSERT_TRUE(Start(preload + "[Recent Files]\nSequence1=C:\\A.SEQ\n"));
   EXPECT_EQ(Seq_Data[0], 127);
   EXPECT_EQ(Editor.ED_Seq_Start_Pic.picture(), Start_Enabled);
+  EXPECT_EQ(Active_Form(), &Editor);
+  EXPECT_TRUE(service.sent.empty() && !service.Out_Is_Open());
   Unload(MELVOR);
   ASSERT_TRUE(Start(preload));
   EXPECT_EQ(Seq_Data[0], 0);
@@ -84,17 +74,6 @@ TEST_F(Frame, A_Sequence_That_Is_Refused_After_Its_Preview_Leaves_The_One_In_The
   EXPECT_NE(Sequencer.Seq_Matrix.painted(), shown) << "a preview that stays is seen";
 }
 
-TEST_F(Frame, A_Recent_Tone_Is_Saved_Under_Its_Own_Name) {
-  const std::string tone = Bytes_Of("F0 41 35 00 21 20 01") + std::string(59, 'a') + "\xF7";
-  for (const char* name : {"a.syx", "b.syx", "c.syx"}) root.Put(name, tone);
-  ASSERT_TRUE(
-      Start(std::string(Configured) + "[Recent Files]\nTone1=C:\\a.syx\nTone2=C:\\b.syx\nTone3=C:\\c.syx\n"));
-  Choose(MELVOR.Menu_File_SYX_3);
-  EXPECT_EQ(Tone_File, "C:\\C.SYX");
-  Choose(MELVOR.Menu_File_SYX_2);
-  EXPECT_EQ(Tone_File, "C:\\A.SYX");
-}
-
 TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
   for (const auto& [tone, sequence, closes] : {std::tuple{Answer::Cancel, Answer::No, false},
                                                {Answer::No, Answer::Cancel, false},
@@ -111,8 +90,7 @@ TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
   EXPECT_TRUE(desktop.quit);
 }
 
-TEST_F(Frame, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
-  ASSERT_TRUE(Start());
+TEST_F(Running, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
   const Picture raised = Editor.ED_Seq_Start.picture;
   Play();
   EXPECT_NE(Editor.ED_Seq_Start.picture(), raised);
@@ -124,8 +102,7 @@ TEST_F(Frame, Closing_While_The_Sequencer_Plays_Silences_It_Before_Any_Prompt) {
   EXPECT_EQ(Editor.ED_Seq_Start.picture(), raised);
 }
 
-TEST_F(Frame, Closing_While_It_Waits_For_A_Tone_Keeps_Autosend_In_The_Settings) {
-  ASSERT_TRUE(Start());
+TEST_F(Running, Closing_While_It_Waits_For_A_Tone_Keeps_Autosend_In_The_Settings) {
   Tone_Receive();
   EXPECT_EQ(Receive_On - Autosend, 1);
   Unload(MELVOR);
@@ -151,8 +128,7 @@ TEST_F(Frame, Closing_In_The_Wait_Of_A_Save_As_Ends_What_Waited) {
   }
 }
 
-TEST_F(Frame, Closing_Beside_A_Dialog_Leaves_It_And_Saves_By_One_Of_Its_Own) {
-  ASSERT_TRUE(Start());
+TEST_F(Running, Closing_Beside_A_Dialog_Leaves_It_And_Saves_By_One_Of_Its_Own) {
   Choose(MELVOR.Menu_MIDI_Seq);
   Choose(MELVOR.Menu_File_SYX_Open);
   Seq_Saved = Flag_Off;
@@ -165,22 +141,7 @@ TEST_F(Frame, Closing_Beside_A_Dialog_Leaves_It_And_Saves_By_One_Of_Its_Own) {
   EXPECT_TRUE(Active_Dlg.empty() && Editor.enabled());
 }
 
-TEST_F(Frame, A_Failed_Note_Leaves_None_Of_The_Sequencer_Sounding) {
-  ASSERT_TRUE(Start());
-  Play();
-  service.Fail_Next("Out_Short", 67);
-  desktop.on_other_box = [this] {
-    desktop.Advance_ms(1000);  // steps fall due behind the box
-    return Answer::Ok;
-  };
-  MIDI_SendNote(60, 127);
-  desktop.Advance_ms(1000);
-  EXPECT_EQ(service.Take_Hex().back(), "B0 7B 00");
-  EXPECT_EQ(desktop.boxes.size(), 1U);
-}
-
-TEST_F(Frame, Where_The_Display_Goes_Notes_End_And_The_Settings_Are_Kept) {
-  ASSERT_TRUE(Start());
+TEST_F(Running, Where_The_Display_Goes_Notes_End_And_The_Settings_Are_Kept) {
   Play();
   Tone_Receive();
   service.Take_Hex();
@@ -195,8 +156,7 @@ TEST_F(Frame, Where_The_Display_Goes_Notes_End_And_The_Settings_Are_Kept) {
   EXPECT_EQ(root.Get("MELVOR.INI"), Configured) << "after the end";
 }
 
-TEST_F(Frame, A_Signal_In_A_Box_Ends_The_Command_That_Asked) {
-  ASSERT_TRUE(Start());
+TEST_F(Running, A_Signal_In_A_Box_Ends_The_Command_That_Asked) {
   Tone_Saved = Flag_False;
   desktop.on_other_box = [] {
     End_Without_Questions();
@@ -206,8 +166,7 @@ TEST_F(Frame, A_Signal_In_A_Box_Ends_The_Command_That_Asked) {
   EXPECT_EQ(service.Take_Hex().back(), "B0 7B 00") << "and no blank tone behind it";
 }
 
-TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
-  ASSERT_TRUE(Start());
+TEST_F(Running, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_During_The_Start) {
   service.Fail_Next("Out_Open", 68, 99);
   End_Without_Questions();
   EXPECT_FALSE(MELVOR.Loaded());
@@ -224,5 +183,3 @@ TEST_F(Frame, A_Signal_Ends_It_Without_A_Box_Where_The_Device_Has_Gone_And_Durin
   EXPECT_EQ(desktop.boxes.size(), 1U);
   EXPECT_EQ(root.Get("MELVOR.INI"), settings);
 }
-
-}  // namespace

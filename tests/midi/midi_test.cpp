@@ -6,8 +6,6 @@
 #include "support/recording_service.h"
 #include "support/scripted_desktop.h"
 
-namespace {
-
 struct Midi : testing::Test {
   Midi() {
     MIDI_Enabled = 1;
@@ -48,15 +46,6 @@ TEST_F(Midi, Disabled_It_Sends_Nothing_And_Keeps_The_Handle_But_The_Sequencers_N
   Seq_Status = Note_On_Status();
   Seq_SendNote(60, 127);
   EXPECT_EQ(service.Take_Hex(), Texts{"90 3C 7F"});
-}
-
-TEST_F(Midi, Close_Sends_All_Notes_Off_And_Asks_Again_While_The_Service_Plays) {
-  MIDI_Out_Open();
-  service.Fail_Next("Out_Close", Midi_Still_Playing, 3);
-  MIDI_Out_Close();
-  EXPECT_EQ(service.Take_Hex(), Texts{"B0 7B 00"});
-  EXPECT_EQ(service.calls["Out_Close"], 4);
-  EXPECT_FALSE(service.Out_Is_Open());
 }
 
 TEST_F(Midi, A_Failed_Open_Is_Told_And_Switches_MIDI_Off) {
@@ -105,5 +94,3 @@ TEST_F(Midi, The_Long_Path_Tells_Only_A_Failed_Prepare_And_Sends_All_The_Same) {
   EXPECT_EQ(service.calls["Out_Long"], 2);
   EXPECT_EQ(service.calls["Out_Unprepare"], 2);
 }
-
-}  // namespace

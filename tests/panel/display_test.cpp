@@ -7,10 +7,7 @@
 #include "platform/drives.h"
 #include "platform/text.h"
 #include "windows/input_dlg_window.h"
-#include "windows/modal.h"
 #include "windows/tname_window.h"
-
-namespace {
 
 struct Display_Test : Editor_Fixture {
   Display_Test() {
@@ -21,18 +18,7 @@ struct Display_Test : Editor_Fixture {
     Font_Loaded = Flag_False;
     Editor.Tone_Name.font_face = std::string();
   }
-  ~Display_Test() override { Unload(TName); }
 };
-
-TEST_F(Display_Test, A_Name_Goes_Up_In_Case_And_Out_In_One_Message_Without_Odd_Bytes) {
-  desktop.Click(Editor.Tone_Name);
-  desktop.Type(TName.Tone_Name, "soft Caf\xC3\xA9 12");
-  desktop.Key(Key::Enter, 0, 13);
-  EXPECT_FALSE(TName.Loaded());
-  EXPECT_EQ(Tone_Name_Str + "|" + Display(), "SOFT CAF  |SOFT CAF  ");
-  EXPECT_EQ(Sent(),
-            Texts{"F0 41 36 00 21 20 01 00 53 01 4F 02 46 03 54 04 20 05 43 06 41 07 46 08 20 09 20 0F"});
-}
 
 TEST_F(Display_Test, Cancel_Changes_Nothing_And_No_Entry_Opens_By_Tab_Or_Beside_A_Modal_Window) {
   Set_Focus(Editor.Tone_Name);
@@ -81,5 +67,3 @@ TEST_F(Display_Test, It_Gets_The_Font_And_Gives_It_Back_Once_Or_Keeps_Its_Face) 
   EXPECT_TRUE(desktop.fonts.empty());
   Pics_Release_Font();
 }
-
-}  // namespace

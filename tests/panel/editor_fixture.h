@@ -4,8 +4,6 @@
 
 #include "panel/editor.h"
 #include "support/program.h"
-#include "windows/editor_window.h"
-#include "windows/focus_mark.h"
 
 inline std::string Numbers(std::initializer_list<int> numbers) {
   std::string text;
@@ -24,10 +22,6 @@ struct Editor_Fixture : Program {
   Editor_Fixture() {
     Editor_Wire();
     Show(Editor);
-  }
-  ~Editor_Fixture() override {
-    Unload(Editor);
-    Active_Ctl = nullptr;
   }
 
   virtual std::uint8_t& Byte(int index) { return Tone[index]; }

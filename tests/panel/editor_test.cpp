@@ -2,8 +2,6 @@
 
 #include "panel/editor_fixture.h"
 
-namespace {
-
 using Editor_Test = Editor_Fixture;
 
 TEST_F(Editor_Test, Tab_Walks_The_Elements_Each_With_Its_Parameter) {
@@ -44,5 +42,3 @@ TEST_F(Editor_Test, A_Shown_Tone_Stands_In_Plain_Bands) {
             "plus 12 semitones, plus 28, envelope 2");
   EXPECT_TRUE(Sent().empty());
 }
-
-}  // namespace

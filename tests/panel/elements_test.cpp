@@ -2,11 +2,7 @@
 
 #include "panel/editor_fixture.h"
 #include "panel/push_buttons.h"
-#include "windows/modal.h"
 #include "windows/patch_window.h"
-#include "windows/pictures.h"
-
-namespace {
 
 using Elements = Editor_Fixture;
 
@@ -66,38 +62,11 @@ TEST_F(Elements, What_Has_The_Focus_Moves_Though_Nothing_Or_Something_Closed_Is_
   }
 }
 
-TEST_F(Elements, What_Has_The_Focus_Blinks_And_Nothing_Else) {
-  std::string seen;
-  const auto look = [&](const char* what) {
-    for (int phase = 0; phase < 2; ++phase) {
-      desktop.Advance_ms(250);
-      for (Picture_Box* cap : {&Editor.ENV1_Attack, &Editor.ENV1_Decay, &Editor.ENV1_Sustain}) {
-        if (cap->picture() != Buttons(Slider_Cap)) seen += what + std::string(cap->name.substr(5)) + " ";
-      }
-    }
-  };
-  for (Picture_Box* cap : {&Editor.ENV1_Attack, &Editor.ENV1_Decay, &Editor.ENV1_Sustain}) {
-    desktop.Click(*cap);
-    look("");
-    desktop.Advance_ms(250);  // it may be dark as the focus goes
-    desktop.Click(Editor.Keys_Pic);
-    look("after ");
-  }
-  EXPECT_EQ(seen, "Attack Decay Sustain ");
-}
-
 TEST_F(Elements, A_Held_Space_Bar_Presses_Once) {
-  int clicks = 0;
-  Form window{Form_Role::Child, "Window"};
-  Picture_Box button{window, "Button"};
-  button.tab_index = 0;
-  button.on_click = [&] { ++clicks; };
-  Work_By_Space(button);
-  Show(window);
-  for (const bool repeated : {false, true, true, false}) {
-    EXPECT_TRUE(Key_Down(window, &button, {Key::Space, 0, repeated}, 0)) << "used up";
-  }
-  EXPECT_EQ(clicks, 2);
+  Work_By_Space(Editor.VCA_Mode);
+  for (const bool repeated : {false, true, true, false})
+    EXPECT_TRUE(Key_Down(Editor, &Editor.VCA_Mode, {Key::Space, 0, repeated}, 0)) << "used up";
+  EXPECT_EQ(Sent(), (Texts{Message(58, 64), Message(58, 0)}));
 }
 
 TEST_F(Elements, A_Press_Sends_The_Present_Value_But_Not_That_Of_A_Switch) {
@@ -145,5 +114,3 @@ TEST_F(Elements, A_Switch_Drag_Sends_Only_Steps_Of_More_Than_4_On_The_Same_Switc
                 {chorus, 43, 4, 16, 48, true, "488 398"},
                 {chorus, 43, 4, 1, 47, false, "488 408"}});
 }
-
-}  // namespace

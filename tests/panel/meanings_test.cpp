@@ -2,15 +2,12 @@
 #include "panel/patch.h"
 #include "windows/patch_window.h"
 
-namespace {
-
 struct Meanings : Editor_Fixture {
   Meanings() {
     Patch_Wire();
     Show(Patch);
     Sent();
   }
-  ~Meanings() override { Unload(Patch); }
 };
 
 TEST_F(Meanings, Every_Kind_Of_Value_Is_Told_With_Its_Meaning) {
@@ -69,11 +66,16 @@ TEST_F(Meanings, A_Number_Is_Reached_By_Keys) {
   }
 }
 
-TEST_F(Meanings, The_Keys_End_Where_They_Change_Nothing) {
+TEST_F(Meanings, The_Keys_End_Where_They_Change_Nothing_And_Fail_Out_Of_The_Range) {
   Patch_Rec[0] = 90;
   Patch.Pitch_Bend_Range.top = 28;  // as a drag that left the cap can leave it
   User_Turned(Patch.Pitch_Bend_Range, 3);
   EXPECT_EQ(Sent().size(), 2U);
+  Patch_Rec[0] = 0;
+  Patch.Pitch_Bend_Range.top = 28;
+  desktop.Expect_Box(Answer::Ok, "Error 6: Overflow");
+  Key_On(Patch.Pitch_Bend_Range, Key::Down);
+  EXPECT_TRUE(Sent().empty());
 }
 
 TEST_F(Meanings, A_Locked_Window_Stays_As_It_Is) {
@@ -83,5 +85,3 @@ TEST_F(Meanings, A_Locked_Window_Stays_As_It_Is) {
   User_Pressed(Editor.VCF_CutoffF, {Left_Button, 0, 8, 8});
   EXPECT_EQ(Sent(), Texts());
 }
-
-}  // namespace

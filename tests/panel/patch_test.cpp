@@ -7,9 +7,6 @@
 #include "panel/patch_mks70.h"
 #include "windows/patch_mks70_window.h"
 #include "windows/patch_window.h"
-#include "windows/pictures.h"
-
-namespace {
 
 struct Patch_Test : Editor_Fixture {
   Patch_Test() {
@@ -18,7 +15,6 @@ struct Patch_Test : Editor_Fixture {
     Patch_Wire();
     Menu_Tone_Patch();
   }
-  ~Patch_Test() override { Unload(Patch); }
 
   std::uint8_t& Byte(int index) override { return Patch_Rec[index]; }
   std::string Head() override { return "F0 41 36 00 21 30 01 "; }
@@ -91,13 +87,6 @@ TEST_F(Patch_Test, The_Mouse_Moves_Each_Kind_By_Its_Own_Rule) {
   Expect_Drags({{range, 0, 4, -90, 90, false, "117 58"}});  // after a switch of another window
 }
 
-TEST_F(Patch_Test, A_Step_Out_Of_The_Range_Fails_As_Overflow) {
-  Patch.Pitch_Bend_Range.top = 28;  // as a drag that left the cap can leave it
-  desktop.Expect_Box(Answer::Ok, "Error 6: Overflow");
-  Key_On(Patch.Pitch_Bend_Range, Key::Down);
-  EXPECT_TRUE(Sent().empty());
-}
-
 TEST_F(Patch_Test, Lights_Are_Chosen_By_Click_And_Key) {
   std::size_t item = 0;
   for (const int value : {0, 1, 2, 4, 5, 6}) {
@@ -164,7 +153,4 @@ TEST_F(Editor_Fixture, On_The_MKS70_What_Is_Changed_Goes_To_The_Tone_That_Is_Sho
   EXPECT_EQ(Numbers({MKS70_Patch[MKS70_Split_A], MKS70_Patch[MKS70_Split_B]}), "108 60");
   desktop.Key(Key::Escape, 0, 27);
   EXPECT_FALSE(panel.Loaded());
-  Unload(Patch);  // the knob's focus mark has loaded it
 }
-
-}  // namespace

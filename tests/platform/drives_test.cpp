@@ -3,8 +3,6 @@
 #include "platform/directories.h"
 #include "support/temporary_root.h"
 
-namespace {
-
 struct Drives_Test : testing::Test {
   std::string Host(const std::string& below) const { return root.host.string() + below; }
   Temporary_Root root;
@@ -42,5 +40,3 @@ TEST_F(Drives_Test, The_Table_Follows_The_Users_Own_Directories) {
   Directories_Find("/usr/bin/melvor");
   EXPECT_EQ(Program_Directory(), "C:\\.config\\melvor");
 }
-
-}  // namespace

@@ -3,8 +3,6 @@
 #include "platform/form.h"
 #include "support/temporary_root.h"
 
-namespace {
-
 using Texts = std::vector<std::string>;
 
 struct File_Lists_Test : testing::Test {
@@ -59,5 +57,3 @@ TEST_F(File_Lists_Test, Odd_Names_Are_Listed_Or_Left_Out_But_Never_Harm) {
   files.Set_Path("C:\\Tones\\Bank A");
   EXPECT_EQ(files.items(), shown);
 }
-
-}  // namespace

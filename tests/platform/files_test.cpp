@@ -5,8 +5,6 @@
 #include "platform/host_files.h"
 #include "support/temporary_root.h"
 
-namespace {
-
 using Name_Set = std::set<std::string>;
 
 struct Files_Test : testing::Test {
@@ -92,5 +90,3 @@ TEST_F(Files_Test, Three_Copies_Of_What_A_Save_Replaces_Stay) {
   File_Keep_Copy("C:\\tone", "F");
   EXPECT_EQ(all(), "EEDC");
 }
-
-}  // namespace

@@ -2,8 +2,6 @@
 #include "platform/profile_file.h"
 #include "support/temporary_root.h"
 
-namespace {
-
 using namespace std::string_literals;
 
 constexpr std::string_view Path = "C:\\melvor.ini";
@@ -29,14 +27,11 @@ TEST_F(Profile_Test, Values_Are_Found_Among_Noise) {
            "[unclosed\n"
            "After=still here\n"
            "[Grüße]\nEnd=no line end");
-  for (const auto& [section, key, value] : {std::tuple{"First", "kEY", "value"},
-                                            {"First", ";Comment", "(default)"},
-                                            {"Midi", "Input", "  quoted  "},
-                                            {"MIDI", "Equals", "a=b;c"},
-                                            {"MIDI", "After", "still here"},
-                                            {"None", "Key", "(default)"},
-                                            {"grüße", "end", "no line end"}})
-    EXPECT_EQ(Get(section, key), value) << key;
+  const std::array<const char*, 3> rows[] = {
+      {"First", "kEY", "value"},      {"First", ";Comment", "(default)"}, {"Midi", "Input", "  quoted  "},
+      {"MIDI", "Equals", "a=b;c"},    {"MIDI", "After", "still here"},    {"None", "Key", "(default)"},
+      {"grüße", "end", "no line end"}};
+  for (const auto& [section, key, value] : rows) EXPECT_EQ(Get(section, key), value) << key;
 }
 
 TEST_F(Profile_Test, A_Write_Changes_Its_Value_And_No_Other_Byte) {
@@ -85,5 +80,3 @@ TEST_F(Profile_Test, A_Held_Batch_Is_Written_At_Its_End_With_The_Bytes_Of_Single
     EXPECT_EQ(root.Get("melvor.ini"), single) << start;
   }
 }
-
-}  // namespace

@@ -3,8 +3,6 @@
 #include "platform/runtime_error.h"
 #include "support/scripted_desktop.h"
 
-namespace {
-
 struct Timers : testing::Test {
   Timers() {
     timer.on_tick = [this] { ticks += std::to_string(desktop.Now_us() / 1000) + " "; };
@@ -49,5 +47,3 @@ TEST_F(Timers, A_Timer_Does_Not_Tick_Inside_Itself_And_A_Failure_Is_Told) {
   desktop.Advance_ms(100);
   EXPECT_EQ(ticks, "begin end ");
 }
-
-}  // namespace

@@ -2,8 +2,6 @@
 // comes of it.
 #include "sequencer/sequencer_fixture.h"
 
-namespace {
-
 struct Broken_Sequence : Sequencer_Test {
   // Loads the bytes over a sequence of 9s and finds the file in memory, or the box told and all as it was.
   void Load(const std::string& bytes, const std::string& box, const std::string& what) {
@@ -51,5 +49,3 @@ TEST_F(Broken_Sequence, A_File_Cut_Short_Or_Beyond_The_Windows_Lists_Leaves_All_
     Load("SEQ1\x78" + std::string(1, static_cast<char>(base_note)) + std::string(104, '\x7F'),
          "Error 380: Invalid property value", std::to_string(base_note));
 }
-
-}  // namespace

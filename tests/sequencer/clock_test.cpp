@@ -1,7 +1,6 @@
 
 #include <algorithm>
 
-#include "midi/output.h"
 #include "platform/chance.h"
 #include "sequencer/seq_pictures.h"
 #include "sequencer/sequencer_fixture.h"
@@ -11,19 +10,6 @@ namespace {
 using Steps = std::vector<int>;
 
 bool Is_Dark(const Picture_Box& indicator) { return indicator.picture() == Indicator_Dark; }
-
-TEST_F(Sequencer_Test, A_Tick_Sends_All_Rows_From_The_Top_Whatever_They_Hold) {
-  MIDI_Channel = 16;
-  Seq_Data[0] = 127;
-  Seq_Data[12] = 100;
-  Seq_Saved = Flag_Off;
-  desktop.Click(Editor.ED_Seq_Start);
-  desktop.Advance_ms(249);
-  EXPECT_EQ(Sent(), Texts());
-  desktop.Advance_ms(1);
-  EXPECT_EQ(Sent(), (Texts{"9F 3C 7F", "9F 3B 00", "9F 3A 00", "9F 39 00", "9F 38 00", "9F 37 00", "9F 36 00",
-                           "9F 35 00", "9F 34 00", "9F 33 00", "9F 32 00", "9F 31 00", "9F 30 64"}));
-}
 
 TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Silencing) {
   Seq_Saved = Flag_Off;

@@ -11,10 +11,8 @@
 #include <csignal>
 #include <cstddef>
 
-#include "core/tone_files.h"
 #include "core/tone_save.h"
 #include "platform/files.h"
-#include "platform/profile_file.h"
 #include "sequencer/sequencer_fixture.h"
 
 namespace {
@@ -96,7 +94,6 @@ struct Killed_Save : Sequencer_Test {
     desktop.on_other_box = [this] { return desktop.Last_Box().ends_with("?") ? Answer::Yes : Answer::Ok; };
     Tone_File = Seq_File = INI_File = "C:\\FILE";  // what is there keeps its own spelling
   }
-  ~Killed_Save() override { INI_File.clear(); }
 
   Files On_Disk() const {
     Files files;

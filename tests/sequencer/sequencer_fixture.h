@@ -2,8 +2,6 @@
 #pragma once
 
 #include "core/file_places.h"
-#include "core/recent.h"
-#include "core/settings.h"
 #include "panel/editor.h"
 #include "sequencer/model.h"
 #include "sequencer/seq_clock.h"
@@ -13,10 +11,6 @@
 #include "sequencer/seq_transport.h"
 #include "sequencer/seq_window.h"
 #include "support/program.h"
-#include "support/temporary_root.h"
-#include "windows/editor_window.h"
-#include "windows/file_dlg_window.h"
-#include "windows/pictures.h"
 #include "windows/sequencer_window.h"
 
 struct Sequencer_Test : Program {
@@ -26,28 +20,17 @@ struct Sequencer_Test : Program {
     Seq_Clock_Wire();
     Seq_Window_Wire();
     Dir_Sequences = "c:\\";
-    Recent_Seqs = {};
     Seq_Clear();
     Seq_File.clear();
     Seq_Base_Note = 48;
     Seq_Prev_Step = 0;
     Seq_Select_Mode(Play_Mode::Forward);
     MELVOR.Seq_Tmr.interval_ms = 250;
-    FD_Done = Flag_Off;
     Show(Editor);
-  }
-  ~Sequencer_Test() override {
-    MELVOR.Seq_Tmr.enabled = false;
-    FD_Open = Flag_False;
-    Receive_On = 0;
-    Unload(Sequencer);
-    Unload(Editor);
   }
 
   void Open_Window() {
     Menu_MIDI_Seq();
     Sent();
   }
-
-  Temporary_Root root;
 };

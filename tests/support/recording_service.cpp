@@ -40,21 +40,9 @@ Texts Recording_Service::Take_Hex() {
   return texts;
 }
 
-int Recording_Service::Out_Caps(int device, MIDI_Out_Caps& caps) {
-  caps = {};
-  outputs.at(static_cast<std::size_t>(device)).copy(caps.name.data(), Midi_Name_Size - 1);
-  return Midi_Ok;
-}
-
-int Recording_Service::In_Caps(int device, MIDI_In_Caps& caps) {
-  caps = {};
-  inputs.at(static_cast<std::size_t>(device)).copy(caps.name.data(), Midi_Name_Size - 1);
-  return Midi_Ok;
-}
-
 int Recording_Service::Do(const std::string& operation, std::int32_t handle, std::int32_t opened) {
   ++calls[operation];
-  if (failures_[operation].times-- > 0) return failures_[operation].code;
+  if (auto& [code, times] = failures_[operation]; times-- > 0) return code;
   return handle == opened && handle != 0 ? Midi_Ok : Midi_Invalid_Handle;
 }
 

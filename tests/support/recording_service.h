@@ -41,7 +41,7 @@ struct Recording_Service final : Midi_Service {
   // --- the service
   void Refresh() override {}
   int Out_Count() override { return static_cast<int>(outputs.size()); }
-  int Out_Caps(int device, MIDI_Out_Caps& caps) override;
+  int Out_Caps(int device, MIDI_Out_Caps& caps) override { return Name_Of(outputs, device, caps); }
   int Out_Open(std::int32_t& handle, int device) override {
     return Open("Out_Open", handle, out_, outputs, device);
   }
@@ -51,7 +51,7 @@ struct Recording_Service final : Midi_Service {
   int Out_Unprepare(std::int32_t handle, MIDI_Header&) override { return Do("Out_Unprepare", handle, out_); }
   int Out_Close(std::int32_t handle) override;
   int In_Count() override { return static_cast<int>(inputs.size()); }
-  int In_Caps(int device, MIDI_In_Caps& caps) override;
+  int In_Caps(int device, MIDI_In_Caps& caps) override { return Name_Of(inputs, device, caps); }
   int In_Open(std::int32_t& handle, int device, Midi_Receiver receiver) override;
   int In_Prepare(std::int32_t handle, MIDI_Header& header) override;
   int In_Add_Buffer(std::int32_t handle, MIDI_Header& header) override;
@@ -64,17 +64,18 @@ struct Recording_Service final : Midi_Service {
   }
 
  private:
-  struct Failure {
-    int code = 0;
-    int times = 0;
-  };
-
+  template <class Caps>
+  static int Name_Of(const Texts& names, int device, Caps& caps) {
+    caps = {};
+    names.at(static_cast<std::size_t>(device)).copy(caps.name.data(), Midi_Name_Size - 1);
+    return Midi_Ok;
+  }
   int Do(const std::string& operation, std::int32_t handle, std::int32_t opened);
   int Open(const std::string& operation, std::int32_t& handle, std::int32_t& opened, const Texts& names,
            int device);
 
   std::int32_t out_ = 0, in_ = 0;  // their handles; 0: closed
   std::int32_t last_handle_ = 0;
-  std::map<std::string, Failure> failures_;
+  std::map<std::string, std::pair<int, int>> failures_;  // code, and how many times
   Midi_Receiver receiver_;
 };

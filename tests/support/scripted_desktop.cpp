@@ -73,14 +73,6 @@ int Scripted_Desktop::Remove_Font(std::string_view host_path) {
   return remove_font_error;
 }
 
-void Scripted_Desktop::Press(Control& control, int button, float x, float y) {
-  Mouse_Down(control, {button, 0, x, y});
-}
-
-void Scripted_Desktop::Move(Control& control, float x, float y, int buttons) {
-  Mouse_Move(control, {buttons, 0, x, y});
-}
-
 void Scripted_Desktop::Click(Control& control, int button) {
   Press(control, button);
   Mouse_Up(control, {button, 0, 4, 4}, true);

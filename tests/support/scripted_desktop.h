@@ -27,8 +27,12 @@ struct Scripted_Desktop final : Still_Desktop {
   std::string Last_Box() const { return boxes.empty() ? std::string() : boxes.back(); }
 
   // The user's hand. Places are in pixels of the control.
-  void Press(Control& control, int button = Left_Button, float x = 4, float y = 4);
-  void Move(Control& control, float x, float y, int buttons = Left_Button);
+  void Press(Control& control, int button = Left_Button, float x = 4, float y = 4) {
+    Mouse_Down(control, {button, 0, x, y});
+  }
+  void Move(Control& control, float x, float y, int buttons = Left_Button) {
+    Mouse_Move(control, {buttons, 0, x, y});
+  }
   void Click(Control& control, int button = Left_Button);
   void Double_Click(Control& control);
   // A key in the active form. True if it was used up.

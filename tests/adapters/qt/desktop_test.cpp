@@ -8,8 +8,6 @@
 #include "desk.h"
 #include "platform/runtime_error.h"
 
-namespace {
-
 TEST(Start, Where_The_Toolkit_Gives_Up_The_Program_Ends_With_A_Word_Of_Its_Own) {
   EXPECT_EXIT((Prepare_Toolkit(), qFatal("no platform")), testing::ExitedWithCode(1), "MELVOR: no display");
 }
@@ -153,5 +151,3 @@ TEST_F(Desk, Boxes_Answer_And_Escape_By_Their_Style) {
     EXPECT_EQ(Message_Box("Overwrite?", style + Box_Stop), answer) << style;
   }
 }
-
-}  // namespace

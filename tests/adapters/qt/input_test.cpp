@@ -11,18 +11,6 @@
 #include "adapters/qt/mouse_input.h"
 #include "desk.h"
 
-namespace {
-
-TEST_F(Desk, A_Control_That_Moves_Away_Under_A_Resting_Pointer_Is_Driven_To_It) {
-  knob.on_mouse_move = [&](const Mouse_Event& event) {
-    if (event.button != 0) knob.top = knob.top() + static_cast<int>(event.y / 2);
-  };
-  Show_Windows();
-  Press(Widget("Knob"), {8, 8});
-  for (const int height : {151, 150}) Move(Widget("PANEL"), {108, height});
-  Await([&] { return std::abs(knob.top() - 150) <= 1; });
-}
-
 TEST_F(Desk, Held_Moves_Come_At_A_Bounded_Rate_And_The_Last_One_Always) {
   int told = 0;
   float last_x = 0;
@@ -103,11 +91,12 @@ TEST_F(Desk, A_Key_That_Is_Released_And_Pressed_In_One_Moment_Is_Held) {
   knob.on_key_down = [&](const Key_Event& key) { Note(key.repeated ? "held" : "pressed"); };
   Show_Windows();
   Set_Focus(knob);
-  for (const auto& [type, time_ms] : {std::pair{QEvent::KeyPress, 5},
-                                      {QEvent::KeyRelease, 9},
-                                      {QEvent::KeyPress, 9},
-                                      {QEvent::KeyRelease, 12},
-                                      {QEvent::KeyPress, 20}}) {
+  const std::pair<QEvent::Type, int> keys[] = {{QEvent::KeyPress, 5},
+                                               {QEvent::KeyRelease, 9},
+                                               {QEvent::KeyPress, 9},
+                                               {QEvent::KeyRelease, 12},
+                                               {QEvent::KeyPress, 20}};
+  for (const auto& [type, time_ms] : keys) {
     QKeyEvent event(type, Qt::Key_Space, {}, " ");
     event.setTimestamp(static_cast<quint64>(time_ms));
     QApplication::sendEvent(QApplication::focusWidget(), &event);
@@ -172,5 +161,3 @@ TEST_F(Desk, Lists_And_Bars_Have_The_Keys_That_A_Hand_Expects) {
     EXPECT_EQ(bar.value(), value);
   }
 }
-
-}  // namespace

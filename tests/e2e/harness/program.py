@@ -103,14 +103,12 @@ class Session:
         self.process.send_signal(signal.SIGTERM)
         return self.wait_for_end()
 
-    def lose_display(self):
-        """Takes the display away, at which the toolkit ends the program; returns its exit code."""
-        self.machine.display.terminate()
-        return self.wait_for_end()
-
     def end_at_once(self, lose_display=False):
-        """Either, in the middle of whatever it does: no box, the settings written, no note left sounding."""
+        """In the middle of whatever it does, by a signal or, where the display goes, by the toolkit: no box, the
+        settings written, no note left sounding."""
         assert "Synthesizer" not in self.settings()["MIDI"]
-        assert self.lose_display() == 1 if lose_display else self.interrupt() == 0
+        if lose_display:
+            self.machine.display.terminate()
+        assert self.wait_for_end() == 1 if lose_display else self.interrupt() == 0
         assert self.settings()["MIDI"]["Synthesizer"] == "JX-8P"
         wait_until(lambda: self.wire.all()[-1][1] == All_notes_off, "the last word")
