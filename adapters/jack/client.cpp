@@ -140,9 +140,10 @@ void Client::Post_Opening(Slot& slot, const char* name, unsigned long flags) {
         slot.opened = true;
         return;
       }
-      self->After_Periods(Connection_Periods, [&slot] {
+      self->After_Periods(Connection_Periods, [self, &slot] {
         slot.state = Slot_State::Live;
         slot.opened = true;
+        if (!self->Has_Port(slot.other)) Lost(slot);  // a look for lost ports passes over those that open
       });
     });
   });

@@ -1,4 +1,5 @@
-// A clock that stands still but for who sleeps by it, a test for instance. Safe for threads.
+// A clock that stands still but for who sleeps by it, a test for instance. Safe for threads. A close by it
+// gives up within no real time: see first that the sending thread has had its turn.
 #pragma once
 
 #include <atomic>

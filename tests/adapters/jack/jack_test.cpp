@@ -54,20 +54,35 @@ struct Jack_Server {
 };
 
 struct Jack_Rig {
+  explicit Jack_Rig(Midi::Clock& the_clock = Midi::Steady_Clock()) : clock(the_clock) {
+    // A busy machine may take more than one look to connect.
+    EXPECT_TRUE(Await([this] {
+      service.Refresh();
+      return service.Out_Count() > 0;
+    }));
+  }
+
+  Midi::Clock& clock;
   Jack_Server server;
   std::unique_ptr<Jack_Peer> peer = std::make_unique<Jack_Peer>("peer");
-  Hand_Clock clock;
   Posts posts;
   Jack::Jack_Backend backend{clock};
   Midi::Service service{{&backend}, posts.Poster(), clock};
 
-  Byte_String Received(std::size_t count) {
+  Byte_String Received(std::size_t count) { return Received(*peer, count); }
+  static Byte_String Received(Jack_Peer& from, std::size_t count) {
     Byte_String bytes;
     Await([&] {
-      for (const Jack_Event& event : peer->Take_Events()) bytes += event.bytes;
+      for (const Jack_Event& event : from.Take_Events()) bytes += event.bytes;
       return bytes.size() >= count;
     });
     return bytes;
+  }
+  // A close that gives up by a clock without real time would be quicker than the thread that sends.
+  void Give_Up(std::int32_t handle) {
+    EXPECT_TRUE(Await([&] { return service.Counts(handle).delivered == service.Counts(handle).taken; }));
+    EXPECT_EQ(service.Out_Close(handle), Midi_Still_Playing);
+    EXPECT_EQ(Close_Output(service, handle), Midi_Ok);
   }
 };
 
@@ -92,7 +107,8 @@ TEST(Jack, Without_A_Server_The_List_Is_Empty_And_Nothing_Is_Printed_Or_Started)
 // wait, short ones while fewer than 4,096 do, and the end of all notes beyond that. Who closes gives up after
 // a while; what was taken goes out all the same.
 TEST(Jack, While_The_Server_Stands_Still_No_Call_Waits_And_Nothing_Is_Lost) {
-  Jack_Rig rig;
+  Hand_Clock clock;
+  Jack_Rig rig(clock);
   kill(rig.server.pid, SIGSTOP);
   waitpid(rig.server.pid, nullptr, WUNTRACED);
   rig.service.Refresh();
@@ -107,27 +123,30 @@ TEST(Jack, While_The_Server_Stands_Still_No_Call_Waits_And_Nothing_Is_Lost) {
   EXPECT_EQ(rig.service.Out_Short(handle, 0x403C90), Midi_Not_Ready);
   EXPECT_EQ(rig.service.Out_Short(handle, 0x007BB0), Midi_Ok);
   want += Bytes_Of("B0 7B 00");
-  EXPECT_EQ(rig.service.Out_Close(handle), Midi_Still_Playing);
-  EXPECT_EQ(Close_Output(rig.service, handle), Midi_Ok);
+  rig.Give_Up(handle);
   kill(rig.server.pid, SIGCONT);
   EXPECT_EQ(Hex_Text(rig.Received(want.size())), Hex_Text(want));
 }
 
 // A client that is not done with its period stops all others, while the server itself still answers.
 TEST(Jack, An_Output_That_Still_Drains_Delays_The_Opening_Of_No_Other) {
-  Jack_Rig rig;
+  Hand_Clock clock;
+  Jack_Rig rig(clock);
+  Jack_Peer other("other");
+  rig.service.Refresh();
   const std::int32_t first = Open_Output(rig.service, "peer:in");
   ASSERT_EQ(rig.service.Out_Short(first, 0x403C90), Midi_Ok);
   EXPECT_EQ(Hex_Text(rig.Received(3)), "90 3C 40");
   std::unique_lock period = rig.peer->Hold();
   ASSERT_EQ(rig.service.Out_Short(first, 0x007BB0), Midi_Ok);
-  EXPECT_EQ(Close_Output(rig.service, first), Midi_Ok);
-  const std::int32_t second = Open_Output(rig.service, "peer:in");
+  rig.Give_Up(first);
+  const std::int32_t second = Open_Output(rig.service, "other:in");
   ASSERT_EQ(rig.service.Out_Short(second, 0x403D90), Midi_Ok);
   EXPECT_TRUE(Await([&] { return rig.peer->Sees("MELVOR:out 2"); }));
   EXPECT_TRUE(rig.peer->Sees("MELVOR:out"));
   period.unlock();
-  EXPECT_EQ(Hex_Text(rig.Received(6)), "B0 7B 00 90 3D 40");
+  EXPECT_EQ(Hex_Text(rig.Received(3)), "B0 7B 00");
+  EXPECT_EQ(Hex_Text(Jack_Rig::Received(other, 3)), "90 3D 40");
 }
 
 TEST(Jack, A_Port_That_Goes_Is_Told_By_Code) {

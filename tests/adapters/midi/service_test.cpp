@@ -53,8 +53,8 @@ TEST_F(Service_Test, Devices_Run_Through_All_Backends_And_A_Refresh_Leaves_Open_
   EXPECT_EQ(service.Out_Open(other, 2), Midi_Allocated) << "the same port under another number";
   EXPECT_EQ(service.Out_Open(other, 3), Midi_Bad_Device);
   EXPECT_EQ(other, -1);
+  EXPECT_TRUE(Await([this] { return second.ports["o"].Bytes() == "\x90\x3C\x40"; }));
   EXPECT_EQ(Close_Output(service, handle), Midi_Ok);
-  EXPECT_EQ(second.ports["o"].Bytes(), "\x90\x3C\x40");
 }
 
 TEST_F(Service_Test, A_Call_Out_Of_Order_Is_Answered_By_Its_Code) {
