@@ -1,5 +1,6 @@
 #include "core/tone_commands.h"
 
+#include "core/undo.h"
 #include "support/program.h"
 
 struct Tone_Commands : Program {
@@ -29,6 +30,23 @@ TEST_F(Tone_Commands, A_Changed_Tone_Is_Asked_About_And_Cancel_Ends_The_Command)
   EXPECT_EQ(Tone[34] + Tone_Loading, Flag_Off);
   EXPECT_EQ(Tone_Saved, Flag_True);
   EXPECT_EQ(Sent().size(), 1U) << "also with automatic sending off";
+}
+
+TEST_F(Tone_Commands, Random_Keeps_A_Changed_Tone_For_Undo) {
+  Tone[34] = 77;
+  Patch_Rec[1] = 3;
+  const auto tone = Tone;
+  const auto patch = Patch_Rec;
+  Tone_Saved = Flag_False;
+  Tone_Random();
+  EXPECT_NE(Tone, tone);
+  EXPECT_EQ(Tone_Name_Str, "RANDOM");
+  Tone_Saved = Flag_True;
+  Tone_Random();  // keeps nothing
+  Undo_Restore();
+  EXPECT_TRUE(Tone == tone && Patch_Rec == patch);
+  EXPECT_FALSE(MELVOR.Menu_Edit_Undo.enabled());
+  EXPECT_EQ(Sent().size(), 3U);
 }
 
 TEST_F(Tone_Commands, Only_A_Dump_Of_67_Bytes_Ends_The_Wait) {

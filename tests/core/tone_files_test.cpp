@@ -1,6 +1,7 @@
 #include "core/tone_files.h"
 #include "core/file_places.h"
 #include "core/tone_save.h"
+#include "core/undo.h"
 
 #include <numeric>
 
@@ -157,6 +158,32 @@ TEST_F(Tone_Files, A_Dialog_That_Does_Not_Open_Is_Told) {
     Tone_SaveAs();
     File_Dlg.on_unload = nullptr;
     Unload(File_Dlg);
+  }
+}
+
+// What the confirm of the dialog does: it saves, and the undo copy comes into the editor.
+TEST_F(Tone_Files, Undo_Brings_Back_What_Save_As_Saved_With_Its_File) {
+  Load(Tone_Message(40) + Patch_Message);
+  Tone_Param_Set(34, 99);
+  Tone_Undo.bytes.fill(7);
+  for (const Answer answer : {Answer::Yes, Answer::Cancel}) {
+    desktop.At_Wait([] {
+      Tone_File = "c:\\new.syx";
+      EXPECT_TRUE(Tone_Save());
+      Save_As_Written();
+      Unload(File_Dlg);
+    });
+    desktop.Expect_Box(answer, "File exists: c:\\new.syx Overwrite?");
+    Tone_SaveAs();
+    EXPECT_EQ(Tone[34], 7) << "the undo copy";
+    EXPECT_EQ(root.Get("new.syx")[7 + 34], 99) << "and not the undo copy";
+    Tone_Clear();
+    Undo_Restore();
+    Title_Mark();
+    EXPECT_EQ(Tone[34], 99);
+    EXPECT_EQ(Tone_File + MELVOR.caption(), "c:\\new.syxMELVOR - NEW.SYX");
+    EXPECT_TRUE(MELVOR.Menu_File_SYX_Save.enabled() && !MELVOR.modified() && Tone_Saved == Flag_True);
+    Tone_Undo.bytes.fill(7);
   }
 }
 

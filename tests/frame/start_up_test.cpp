@@ -74,6 +74,17 @@ TEST_F(Frame, A_Sequence_That_Is_Refused_After_Its_Preview_Leaves_The_One_In_The
   EXPECT_NE(Sequencer.Seq_Matrix.painted(), shown) << "a preview that stays is seen";
 }
 
+TEST_F(Frame, A_Recent_Tone_Is_Saved_Under_Its_Own_Name) {
+  const std::string tone = Bytes_Of("F0 41 35 00 21 20 01") + std::string(59, 'a') + "\xF7";
+  for (const char* name : {"a.syx", "b.syx", "c.syx"}) root.Put(name, tone);
+  ASSERT_TRUE(
+      Start(std::string(Configured) + "[Recent Files]\nTone1=C:\\a.syx\nTone2=C:\\b.syx\nTone3=C:\\c.syx\n"));
+  Choose(MELVOR.Menu_File_SYX_3);
+  EXPECT_EQ(Tone_File, "C:\\C.SYX");
+  Choose(MELVOR.Menu_File_SYX_2);
+  EXPECT_EQ(Tone_File, "C:\\A.SYX");
+}
+
 TEST_F(Frame, Closing_Asks_For_Both_And_Only_What_Is_Settled_Lets_It_Go) {
   for (const auto& [tone, sequence, closes] : {std::tuple{Answer::Cancel, Answer::No, false},
                                                {Answer::No, Answer::Cancel, false},
