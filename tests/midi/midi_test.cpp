@@ -48,6 +48,15 @@ TEST_F(Midi, Disabled_It_Sends_Nothing_And_Keeps_The_Handle_But_The_Sequencers_N
   EXPECT_EQ(service.Take_Hex(), Texts{"90 3C 7F"});
 }
 
+TEST_F(Midi, Close_Sends_All_Notes_Off_And_Asks_Again_While_The_Service_Plays) {
+  MIDI_Out_Open();
+  service.Fail_Next("Out_Close", Midi_Still_Playing, 3);
+  MIDI_Out_Close();
+  EXPECT_EQ(service.Take_Hex(), Texts{"B0 7B 00"});
+  EXPECT_EQ(service.calls["Out_Close"], 4);
+  EXPECT_FALSE(service.Out_Is_Open());
+}
+
 TEST_F(Midi, A_Failed_Open_Is_Told_And_Switches_MIDI_Off) {
   service.Fail_Next("Out_Open", Midi_Allocated, 3);
   for (void (*send)() :

@@ -23,6 +23,14 @@ TEST_F(Sequencer_Test, A_Note_That_Fails_Ends_The_Step_And_Is_Told_With_The_Sile
   EXPECT_EQ(desktop.boxes.size(), 2U);
   EXPECT_EQ(MIDI_Enabled, 0);
   EXPECT_EQ(Seq_Step, 0) << "the clock has stopped";
+
+  MIDI_Enabled = 1;
+  desktop.Click(Editor.ED_Seq_Start);
+  service.Fail_Next("Out_Short", 67);
+  MIDI_SendNote(60, 127);  // not the sequencer's own
+  desktop.Advance_ms(1000);
+  EXPECT_EQ(Sent().back(), "B0 7B 00");
+  EXPECT_EQ(desktop.boxes.size(), 3U);
 }
 
 TEST_F(Sequencer_Test, Each_Mode_Walks_Its_Way) {

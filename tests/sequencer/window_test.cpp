@@ -41,6 +41,16 @@ TEST_F(Sequencer_Test, A_Press_Writes_The_Button_s_Note_Or_Empties_The_Cell) {
   EXPECT_EQ(Sent(), Texts());
 }
 
+TEST_F(Sequencer_Test, The_Matrix_Tells_Its_Notes) {
+  Open_Window();
+  EXPECT_EQ(Sequencer.Seq_Matrix.spoken_value(), "empty");
+  Seq_Data[12] = Seq_Strong;
+  Seq_Data[0] = Seq_Soft;
+  Seq_Data[2 * 13 + 8] = Seq_Strong;
+  Seq_Data[2 * 13 + 7] = 5;  // a file's own value, which is drawn as empty
+  EXPECT_EQ(Sequencer.Seq_Matrix.spoken_value(), "step 1: C strong, upper C soft; step 3: E strong");
+}
+
 TEST_F(Sequencer_Test, Without_MIDI_Or_A_Sequence_Nothing_Starts) {
   Open_Window();
   desktop.Click(Editor.ED_Seq_Start);

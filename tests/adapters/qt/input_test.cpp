@@ -11,6 +11,16 @@
 #include "adapters/qt/mouse_input.h"
 #include "desk.h"
 
+TEST_F(Desk, A_Control_That_Moves_Away_Under_A_Resting_Pointer_Is_Driven_To_It) {
+  knob.on_mouse_move = [&](const Mouse_Event& event) {
+    if (event.button != 0) knob.top = knob.top() + static_cast<int>(event.y / 2);
+  };
+  Show_Windows();
+  Press(Widget("Knob"), {8, 8});
+  for (const int height : {151, 150}) Move(Widget("PANEL"), {108, height});
+  Await([&] { return std::abs(knob.top() - 150) <= 1; });
+}
+
 TEST_F(Desk, Held_Moves_Come_At_A_Bounded_Rate_And_The_Last_One_Always) {
   int told = 0;
   float last_x = 0;
