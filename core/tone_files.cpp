@@ -33,7 +33,7 @@ constexpr std::size_t Read_Limit = 32768;  // one byte more than the 16-bit posi
 struct Reader {
   bool At_End() const { return static_cast<std::size_t>(position) > bytes.size(); }
 
-  // Runtime_Error 62 behind the end.
+  // Runtime_Error 62 beyond the end.
   std::uint8_t Byte(int place) const {
     if (static_cast<std::size_t>(place) > bytes.size()) throw Runtime_Error(Error_Past_End);
     return static_cast<std::uint8_t>(bytes[static_cast<std::size_t>(place) - 1]);
@@ -48,7 +48,7 @@ struct Reader {
 
 struct Scan {
   Reader file;
-  std::string head;  // grows behind a foreign message, and then matches nothing any more
+  std::string head;  // grows after a foreign message, and then matches nothing
   bool tone_at_start = false;
   std::optional<Sound> first;  // what a save would find there, once a further tone has been met
 };

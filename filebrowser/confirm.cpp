@@ -104,7 +104,7 @@ void Confirm_Save_Sequence() {
   Close_After_Save();
 }
 
-// The name alone is taken; Save As goes on behind the dialog.
+// The name alone is taken; Save As goes on after the dialog.
 void Pick_Tone_Name() {
   if (Lower(Typed()) == No_Choice) return;
   Tone_File = Lower(Path_Of(Typed_Name()));
