@@ -1,5 +1,5 @@
-// A ring of bytes between one writing and one reading thread. Takes no lock, and no memory once it is made, so
-// that either may be a thread of a sound server.
+// A ring of bytes between one writing and one reading thread. Takes no lock, and no memory once it is made,
+// so that either may be a thread of a sound server.
 #pragma once
 
 #include <atomic>

@@ -81,7 +81,8 @@ void Frame_Window::Show_Modified(bool modified) {
 void Frame_Window::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   // The toolkit takes the mark away whenever a child window closes.
-  if (event->type() == QEvent::ModifiedChange && isWindowModified() != modified_) setWindowModified(modified_);
+  if (event->type() == QEvent::ModifiedChange && isWindowModified() != modified_)
+    setWindowModified(modified_);
   if (event->type() == QEvent::WindowStateChange && on_placed) on_placed();
 }
 

@@ -30,8 +30,8 @@ TEST(Byte_Ring, Records_Come_Whole_And_In_Order_Round_And_Round_And_What_Has_No_
 }
 
 TEST(Byte_Ring, A_Damaged_Length_Reads_Nothing_And_Leaves_A_Ring_That_Works) {
-  for (const std::string& damaged :
-       {std::string("\1\0\0\0\xFF\xFF\xFF\xFF", 8), std::string("\1\0\0\0\6\0\0\0abcde", 13), std::string("\1\0\0")}) {
+  for (const std::string& damaged : {std::string("\1\0\0\0\xFF\xFF\xFF\xFF", 8),
+                                     std::string("\1\0\0\0\6\0\0\0abcde", 13), std::string("\1\0\0")}) {
     Midi::Byte_Ring ring(32);
     EXPECT_TRUE(ring.Write(damaged, ""));
     EXPECT_EQ(Next(ring), "");
