@@ -41,7 +41,7 @@ TEST_F(File_Lists_Test, A_File_Name_Selects_Filters_Or_Goes_Elsewhere) {
     files.Set_Path("C:\\Tones");
     files.Set_Pattern("*.syx");
     files.Set_File_Name("brass.syx");
-    EXPECT_EQ(Raised([&] { files.Set_File_Name(text); }), error) << text;
+    EXPECT_EQ(Raised([&, name = text] { files.Set_File_Name(name); }), error) << text;
     EXPECT_EQ(
         files.file_name() + " " + files.path() + " " + files.pattern() + " " + std::to_string(files.Count()),
         now)

@@ -14,10 +14,13 @@ class Wire:
 
     def __init__(self, machine, capture_program):
         self.file = machine.directory / "wire.txt"
-        self._process = machine.start("wire", [capture_program, str(self.file), "synth"],
-                                      stdin=subprocess.PIPE, stdout=subprocess.PIPE)
-        if self._process.stdout.readline() != b"ready\n":
-            raise AssertionError(f"the JACK client did not start: {machine.log('wire')}")
+
+        def connected():  # a server that has just started may refuse its second client
+            process = machine.start("wire", [capture_program, str(self.file), "synth"],
+                                    stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+            return process if process.stdout.readline() == b"ready\n" else None
+
+        self._process = wait_until(connected, lambda: f"the JACK client: {machine.log('wire')}")
         self._read = 0
 
     def all(self):
