@@ -154,7 +154,7 @@ void Client::Post_Closing(Slot& slot) {
   Post_Task(worker_, [self = shared_from_this(), &slot] {
     self->When([&slot] { return slot.opened; }, No_End_us,
                [self, &slot] {
-                 // Whoever closes does not wait for a server that stands still. Once it goes on, what was
+                 // A close does not wait for a server that is stopped. Once the server continues, what was
                  // sent still goes out: the last of it ends the notes.
                  self->When([self, &slot] { return self->Drained(slot); }, Longest_Drain_us,
                             [self, &slot] { self->Close_Drained(slot); });
@@ -207,7 +207,7 @@ void Client::After_Periods(unsigned count, Task next) {
 
 void Client::Find_Gone() {
   look_posted_ = false;
-  // The server tells before the port has really gone.
+  // The server announces this before the port has disappeared.
   After_Periods(Connection_Periods, [self = shared_from_this()] {
     for (Output_Slot& slot : self->outputs_) {
       if (slot.state == Slot_State::Live && !self->Has_Port(slot.other)) slot.gone = true;

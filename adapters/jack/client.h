@@ -72,8 +72,8 @@ struct Client : std::enable_shared_from_this<Client> {
   // Whether nothing of the slot is on its way any more, or can be.
   bool Drained(const Output_Slot& slot) const;
   bool Drained(const Input_Slot&) const { return true; }
-  // Calls look on the worker, again and again and other tasks between, until it holds or the clock has gone
-  // on by patience_us; then next. Worker only.
+  // Polls look on the worker, with other tasks in between, until it returns true or patience_us has passed;
+  // then runs next. Worker only.
   using Look = std::function<bool()>;
   using Task = std::function<void()>;
   void When(Look look, std::int64_t patience_us, Task next);

@@ -15,8 +15,8 @@ namespace Jack {
 struct Worker {
   // Throws std::system_error where the system has no thread for it.
   Worker();
-  // Lets the tasks end that were posted, and those that they post, for up to a second. Then they are left
-  // behind with their thread: a server that stays stopped does not keep the program from ending.
+  // Waits up to a second for the posted tasks, and for those that they post in turn. Then it abandons them
+  // with their thread: a server that stays stopped does not keep the program from ending.
   ~Worker();
   Worker(const Worker&) = delete;
   Worker& operator=(const Worker&) = delete;
@@ -41,7 +41,7 @@ struct Worker {
   std::shared_ptr<Queue> queue_;
 };
 
-// Puts a task into the queue, behind those that are due by then. False if the queue has come to its end.
+// Puts a task into the queue, after those that are due by then. False if the queue has ended.
 bool Post_Task(const std::weak_ptr<Worker::Queue>& queue, std::function<void()> task,
                std::chrono::milliseconds delay = {});
 

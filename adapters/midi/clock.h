@@ -5,7 +5,7 @@
 
 namespace Midi {
 
-// Outlives all who use it, threads that were left behind with a system that hangs included.
+// REQUIRES: outlives its users, including threads that were abandoned in a library call that hangs.
 struct Clock {
   virtual std::int64_t Now_us() = 0;                    // never goes back; any thread
   virtual void Sleep_us(std::int64_t duration_us) = 0;  // of the calling thread

@@ -1,5 +1,5 @@
-// A clock that stands still but for who sleeps by it, a test for instance. Safe for threads. A close by it
-// gives up within no real time: see first that the sending thread has had its turn.
+// A clock that only advances when somebody sleeps by it, such as a test. Thread-safe. A close that uses it
+// times out in no real time, so a test must first see that the sending thread has had its turn.
 #pragma once
 
 #include <atomic>
